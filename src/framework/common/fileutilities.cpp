@@ -1,0 +1,151 @@
+#include "framework/common/fileutilities.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double BytesPerUnitStep = 1024.0;
+constexpr int FileSizeDecimals = 1;
+
+void appendSubfolders(const QString &base, const QString &prefix, bool recursive, QStringList &out)
+{
+    const QDir dir(base);
+    const auto filter = QDir::Dirs | QDir::NoDotAndDotDot | (recursive ? QDir::NoSymLinks : QDir::Filter(0));
+    const QStringList names = dir.entryList(filter);
+    for (const QString &name : names) {
+        if (name.startsWith('.'_L1))
+            continue;
+        const QString path = prefix + name + '/'_L1;
+        out.append(path);
+        if (recursive)
+            appendSubfolders(base + name + '/'_L1, path, true, out);
+    }
+}
+
+void appendFiles(const QString &folder, const QString &prefix, const QStringList &filters, bool recursive,
+                 bool fullPath, QStringList &out)
+{
+    const QDir dir(folder);
+    const QStringList files = dir.entryList(filters, QDir::Files);
+    for (const QString &file : files)
+        out.append((fullPath ? dir.absolutePath() + '/'_L1 : prefix) + file);
+    if (!recursive)
+        return;
+    const QStringList subfolders = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QString &name : subfolders)
+        appendFiles(dir.filePath(name), prefix + name + '/'_L1, filters, true, fullPath, out);
+}
+
+} // namespace
+
+bool FileUtilities::createIfNotExists(const QString &folder)
+{
+    return QDir(folder).exists() || QDir().mkpath(folder);
+}
+
+QString FileUtilities::FolderSlash(const QString &path)
+{
+    if (path.isEmpty())
+        return path;
+    QString result = path;
+    result.replace('\\'_L1, '/'_L1).replace("//"_L1, "/"_L1);
+    if (!result.endsWith('/'_L1))
+        result.append('/'_L1);
+    return result;
+}
+
+QStringList FileUtilities::GetSubfolders(const QString &folder, bool fullPath, bool recursive)
+{
+    QStringList folders;
+    const QString base = FolderSlash(folder);
+    appendSubfolders(base, fullPath ? base : QString(), recursive, folders);
+    return folders;
+}
+
+QStringList FileUtilities::getFilesOfType(const QString &folder, const QString &type, bool recursive,
+                                          bool fullPath)
+{
+    return getFilesOfTypes(folder, {type}, recursive, fullPath);
+}
+
+QStringList FileUtilities::getFilesOfTypes(const QString &folder, const QStringList &types, bool recursive,
+                                           bool fullPath)
+{
+    if (!QDir(folder).exists())
+        return {};
+    static const QRegularExpression wildcard(u"[\\*\\.]+"_s);
+    QStringList filters;
+    for (const QString &type : types) {
+        if (!type.isEmpty())
+            filters.append("*."_L1 + QString(type).remove(wildcard));
+    }
+    QStringList files;
+    appendFiles(folder, {}, filters, recursive, fullPath, files);
+    return files;
+}
+
+bool FileUtilities::clearFolder(const QString &folder, bool removeFolder)
+{
+    QDir dir(folder);
+    if (!dir.exists())
+        return false;
+    const bool removed = dir.removeRecursively();
+    if (!removeFolder) {
+        qDebug() << "Creating dir" << folder;
+        QDir().mkpath(folder);
+    }
+    return removed;
+}
+
+QString FileUtilities::base64_encode(const QByteArray &bytes)
+{
+    return QString::fromLatin1(bytes.toBase64());
+}
+
+QByteArray FileUtilities::base64_decode_as_bytes(const QString &text)
+{
+    return QByteArray::fromBase64(text.toUtf8());
+}
+
+QString FileUtilities::base64_decodeFromPercentEncoding(const QString &text)
+{
+    QString plain = text;
+    plain.replace("%2B"_L1, "+"_L1)
+        .replace("%3D"_L1, "="_L1)
+        .replace("%2F"_L1, "/"_L1)
+        .replace("%2C"_L1, ","_L1);
+    return QString::fromUtf8(base64_decode_as_bytes(plain));
+}
+
+bool FileUtilities::acceptableFileName(const QString &name)
+{
+    static const QRegularExpression forbidden(u"[/\\\\:*?<>\"]"_s);
+    return !name.contains(forbidden);
+}
+
+QString FileUtilities::filesizeNice(const QString &path)
+{
+    static constexpr std::array units{QT_TRANSLATE_NOOP("Filesize", "B"), QT_TRANSLATE_NOOP("Filesize", "KB"),
+                                      QT_TRANSLATE_NOOP("Filesize", "MB"),
+                                      QT_TRANSLATE_NOOP("Filesize", "GB"),
+                                      QT_TRANSLATE_NOOP("Filesize", "TB")};
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return {};
+    auto size = static_cast<double>(info.size());
+    std::size_t unit = 0;
+    while (size >= BytesPerUnitStep && unit + 1 < units.size()) {
+        size /= BytesPerUnitStep;
+        ++unit;
+    }
+    return QString::number(size, 'f', unit == 0 ? 0 : FileSizeDecimals) + ' '_L1
+           + QCoreApplication::translate("Filesize", units[unit]);
+}
