@@ -1,0 +1,3 @@
+#include "core/recordslog.h"
+
+Q_LOGGING_CATEGORY(recordsLog, "spinbar.records")

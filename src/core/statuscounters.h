@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <cstddef>
+#include <vector>
+
+/// The rotation counter of one status line, in thousandths of a motor rotation, at its device time.
+struct StatusSample
+{
+    qint64 timeMs = 0;
+    qint64 counter = 0;
+
+    bool operator==(const StatusSample &) const = default;
+};
+
+/// Rotation counters by device time. Ascending times, which is what an instrument sends, are appended at a
+/// constant cost; what came out of order is sorted in when someone looks.
+class StatusCounters
+{
+public:
+    using Samples = std::vector<StatusSample>;
+
+    /// A repeated time replaces the earlier counter.
+    void insert(qint64 timeMs, qint64 counter);
+    void clear();
+
+    bool isEmpty() const { return m_samples.empty(); }
+    /// The entry with the greatest time; zeros if there is none.
+    StatusSample latest() const { return m_latest; }
+    /// Ascending, each time once. Valid until the next insert.
+    const Samples &samples() const;
+    /// The first entry in ascending order whose time differs by less than \a toleranceMs; null if none.
+    const StatusSample *firstMatch(qint64 timeMs, qint64 toleranceMs) const;
+
+private:
+    void sortTail() const;
+
+    mutable Samples m_samples;
+    /// So many samples at the front are sorted and unique.
+    mutable std::size_t m_sorted = 0;
+    StatusSample m_latest;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/statuscounters.h"
+
+#include <QFile>
+#include <QStringView>
+
+#include <optional>
+
+/// "status.log": one line per status message, its fields joined by ";". Only the last two are ever read
+/// again: the rotation counter and the device time, both hexadecimal.
+namespace StatusLog {
+
+/// Of a comma separated message with 5 fields or more; a field that is no number reads as 0.
+std::optional<StatusSample> sampleOfMessage(QStringView line);
+
+/// Replaces \a counters by those of the file; lines of fewer than 8 fields or without a time are skipped.
+/// False, with \a counters untouched, if it can't be opened. Reads in pieces, so neither the file's size nor
+/// the length of a line costs memory.
+bool read(const QString &path, StatusCounters &counters);
+
+/// Appends lines to a new log. Unbuffered, one write call a line: a killed process loses at most the line
+/// in flight.
+class Writer
+{
+public:
+    /// Empties the file. False, with a line in the log, if it can't be opened.
+    bool open(const QString &path);
+    void close();
+    bool isOpen() const { return m_file.isOpen(); }
+
+    /// Writes \a message with ";" for "," and "\r\n" behind it.
+    void append(const QString &message);
+
+private:
+    QFile m_file;
+    qint64 m_wholeLinesBytes = 0;
+    bool m_failing = false;
+};
+
+} // namespace StatusLog

@@ -1,0 +1,269 @@
+#include "core/spinbarrecord.h"
+
+#include "core/experimentfolder.h"
+
+#include <QJsonArray>
+#include <QTest>
+
+#include <csignal>
+#include <limits>
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDateTime Reload = QDateTime::fromMSecsSinceEpoch(1710000000000);
+
+QByteArray experimentWithItem(const QByteArray &item)
+{
+    return "{\"experiment\":{\"items\":[" + item + "]}}";
+}
+
+#ifdef Q_OS_UNIX
+/// While it lives, a write beyond so many bytes fails as on a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = SIG_DFL;
+};
+#endif
+
+} // namespace
+
+class TestExperimentStorage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void savedKeysFollowWhatIsSet()
+    {
+        const ExperimentFolder folder;
+        SpinbarRecord record(folder.path(), Reload);
+        QVERIFY(record.save());
+        QJsonObject experiment = folder.experiment();
+        QCOMPARE(experiment.keys(),
+                 QStringList({u"items"_s, u"time"_s, u"timestamp"_s, u"title"_s, u"ts"_s}));
+        QCOMPARE(experiment["title"_L1], QJsonValue(QString()));
+        QVERIFY(experiment["items"_L1].isArray());
+        QCOMPARE(experiment["time"_L1].toString(), Reload.toString(Qt::TextDate));
+
+        record.setTitle(u"Крыса \"7\""_s);
+        record.setComment(u"line\nbreak"_s);
+        record.setSn(u"12AB"_s);
+        record.addItem(10, 20, 0.5, 3, true, u"row"_s);
+        record.addItem(30, 40, 1500, 0, false, {});
+        experiment = folder.experiment();
+        const QJsonArray items = experiment["items"_L1].toArray();
+        QCOMPARE(items[0].toObject(), (QJsonObject{{u"start"_s, 10},
+                                                   {u"end"_s, 20},
+                                                   {u"rotations"_s, 0.5},
+                                                   {u"rat"_s, true},
+                                                   {u"index"_s, 3},
+                                                   {u"title"_s, u"row"_s}}));
+        QVERIFY(!items[1].toObject().contains("title"_L1));
+        QVERIFY(folder.read("experiment.json").startsWith("{\n    \"experiment\": {\n"));
+
+        SpinbarRecord again(folder.path(), {});
+        QVERIFY(again.load());
+        QCOMPARE(again.rawItems(), record.rawItems());
+        QCOMPARE(again.title() + again.comment() + again.sn(),
+                 record.title() + record.comment() + record.sn());
+        QCOMPARE(again.timestamp(), Reload.toMSecsSinceEpoch());
+    }
+
+    void brokenFilesGiveDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<bool>("loaded");
+        QTest::addColumn<qint64>("timestamp");
+        QTest::addColumn<QString>("title");
+        const qint64 reload = Reload.toMSecsSinceEpoch();
+        const QByteArray nested = QByteArray(5000, '[') + QByteArray(5000, ']');
+        QTest::newRow("no file") << QByteArray() << false << reload << QString();
+        QTest::newRow("empty") << QByteArray("") << false << reload << QString();
+        QTest::newRow("truncated") << QByteArray(R"({"experiment":{"title":"a","items":[)") << false << reload
+                                   << QString();
+        QTest::newRow("binary") << QByteArray(4096, '\0') << false << reload << QString();
+        QTest::newRow("root array") << QByteArray("[]") << false << reload << QString();
+        QTest::newRow("no object") << QByteArray(R"({"experiment":[1]})") << false << reload << QString();
+        QTest::newRow("nested deep") << QByteArray(R"({"experiment":{"title":"a","items":)") + nested + "}}"
+                                     << false << reload << QString();
+        QTest::newRow("nothing set") << QByteArray(R"({"experiment":{}})") << true << qint64(0) << QString();
+        QTest::newRow("null keeps") << QByteArray(R"({"experiment":{"timestamp":null,"title":null}})") << true
+                                    << reload << QString();
+        QTest::newRow("other types") << QByteArray(R"({"experiment":{"timestamp":"5","title":5,"items":{}}})")
+                                     << true << qint64(0) << QString();
+        QTest::newRow("fraction") << QByteArray(R"({"experiment":{"timestamp":5.9,"title":"b"}})") << true
+                                  << qint64(5) << u"b"_s;
+        QTest::newRow("huge") << QByteArray(R"({"experiment":{"timestamp":1e300,"ts":-1e300}})") << true
+                              << std::numeric_limits<qint64>::max() << QString();
+    }
+
+    void brokenFilesGiveDefaults()
+    {
+        QFETCH(QByteArray, json);
+        const ExperimentFolder folder;
+        if (!json.isNull())
+            folder.write("experiment.json", json);
+        SpinbarRecord record(folder.path(), Reload);
+        QTEST(record.load(), "loaded");
+        QTEST(record.timestamp(), "timestamp");
+        QTEST(record.title(), "title");
+        QVERIFY(record.rawItems().isEmpty());
+        QVERIFY(record.save());
+        QVERIFY(SpinbarRecord(folder.path(), {}).load());
+    }
+
+    void onlyUsableRowsAreKept_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("whole") << QByteArray(R"({"start":0,"end":1,"rotations":0.1})") << 1;
+        QTest::newRow("end is start") << QByteArray(R"({"start":5,"end":5,"rotations":1})") << 0;
+        QTest::newRow("end before start") << QByteArray(R"({"start":5,"end":4,"rotations":1})") << 0;
+        QTest::newRow("no start") << QByteArray(R"({"end":5,"rotations":1})") << 0;
+        QTest::newRow("null start") << QByteArray(R"({"start":null,"end":5,"rotations":1})") << 0;
+        QTest::newRow("no end") << QByteArray(R"({"start":0,"rotations":1})") << 0;
+        QTest::newRow("no rotations") << QByteArray(R"({"start":0,"end":5})") << 0;
+        QTest::newRow("row of a flush") << QByteArray(R"({"start":0,"end":5,"rotations":-1})") << 0;
+        QTest::newRow("no object") << QByteArray(R"(7,"a",[],null)") << 0;
+        QTest::newRow("huge") << QByteArray(R"({"start":1,"end":1e30,"rotations":1e300,"index":1e30})") << 1;
+    }
+
+    void onlyUsableRowsAreKept()
+    {
+        QFETCH(QByteArray, item);
+        const ExperimentFolder folder;
+        folder.write("experiment.json", experimentWithItem(item));
+        SpinbarRecord record(folder.path(), Reload);
+        QVERIFY(record.load());
+        QTEST(int(record.rawItems().size()), "kept");
+        if (!record.rawItems().isEmpty()) {
+            QCOMPARE(record.rawItems().first().index, -1);
+            QVERIFY(!record.rawItems().first().rat);
+        }
+    }
+
+    void foreignKeysAndDroppedRowsLeaveWithTheNextSave()
+    {
+        const ExperimentFolder folder;
+        folder.write("experiment.json", experimentWithItem(R"({"start":0,"end":0,"rotations":1})")
+                                            .replace("{\"items\"", "{\"x\":1,\"items\""));
+        SpinbarRecord record(folder.path(), Reload);
+        QVERIFY(record.load());
+        QVERIFY(folder.read("experiment.json").contains("\"x\""));
+        QVERIFY(record.save());
+        QVERIFY(!folder.experiment().contains("x"_L1));
+        QVERIFY(folder.experiment()["items"_L1].toArray().isEmpty());
+    }
+
+    void logLines_data()
+    {
+        QTest::addColumn<QByteArray>("log");
+        QTest::addColumn<QList<qint64>>("timesAndCounters");
+        const auto row = [](const char *name, const QByteArray &log, const QList<qint64> &expected) {
+            QTest::newRow(name) << log << expected;
+        };
+        row("two line ends", "S;0;0;0;0;0;A;64\r\nS;0;0;0;0;0;B;65\n", {100, 10, 101, 11});
+        row("seven fields", "0;0;0;0;0;A;64\n", {});
+        row("eight empty ones", ";;;;;;;\n;;;;;;A;1", {1, 10});
+        row("no time", "S;0;0;0;0;0;A;zz\n", {});
+        row("no counter", "S;0;0;0;0;0;zz;64\n", {100, 0});
+        row("last line cut", "S;0;0;0;0;0;A;64\r\nS;0;0;0;0;0;B", {100, 10});
+        row("blanks and prefix", " S;0;0;0;0;0; A ; 0x64 \t\r\n", {100, 10});
+        row("negative, too long", "0;0;0;0;0;0;-A;-64\n0;0;0;0;0;0;11111111111111111;7fffffffffffffff\n",
+            {-100, -10, std::numeric_limits<qint64>::max(), 0});
+        row("times again and back", "0;0;0;0;0;0;1;B\n0;0;0;0;0;0;2;A\n0;0;0;0;0;0;3;B\n0;0;0;0;0;0;4;A\n",
+            {10, 4, 11, 3});
+        row("byte order mark, other text", "\xEF\xBB\xBFS;\xD0\xAF;\xFF;0;0;0;A;64\n", {100, 10});
+        row("over long line",
+            QByteArray(700000, 'x') + QByteArray(1000000, ';') + ";A;64\n0;0;0;0;0;0;B;65\n",
+            {100, 10, 101, 11});
+        row("over long line of few fields", QByteArray(700000, ' ') + "0;0;0;0;0;A;64\n", {});
+        row("line across pieces", QByteArray(262140, '\n') + "0;0;0;0;0;0;ABC;DEF\n", {0xDEF, 0xABC});
+    }
+
+    void logLines()
+    {
+        QFETCH(QByteArray, log);
+        QFETCH(QList<qint64>, timesAndCounters);
+        const ExperimentFolder folder;
+        folder.write("status.log", log);
+        SpinbarRecord record(folder.path(), Reload);
+        QList<qint64> found;
+        for (const StatusSample &sample : record.counters().samples())
+            found << sample.timeMs << sample.counter;
+        QCOMPARE(found, timesAndCounters);
+    }
+
+    void aGigabyteOfZerosIsAnEmptyLog()
+    {
+        const ExperimentFolder folder;
+        QFile log(folder.path() + "status.log"_L1);
+        QVERIFY(log.open(QIODevice::WriteOnly));
+        QVERIFY(log.resize(qint64(1) << 30));
+        SpinbarRecord record(folder.path(), Reload);
+        record.loadStatus(false);
+        QVERIFY(record.isStatusLoaded());
+        QCOMPARE(record.counters().samples().size(), 0U);
+    }
+
+    void aFolderInPlaceOfAFileIsNoFile()
+    {
+        const ExperimentFolder folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"status.log"_s));
+        QVERIFY(QDir(folder.path()).mkdir(u"experiment.json"_s));
+        SpinbarRecord record(folder.path(), Reload);
+        QVERIFY(!record.load());
+        QVERIFY(!record.save());
+        record.start();
+        record.addStatus(u"S,0,0,0,A,64"_s);
+        record.addItem(1, 2, 3, 0, true, {});
+        QVERIFY(record.counters().isEmpty());
+        record.stop();
+        QCOMPARE(record.rawItems().size(), 1);
+    }
+
+#ifdef Q_OS_UNIX
+    void aFullDiskLeavesWholeLines()
+    {
+        const ExperimentFolder folder;
+        const QString line(38, u'S');
+        StatusLog::Writer writer;
+        QVERIFY(writer.open(folder.path() + "status.log"_L1));
+        {
+            const FileSizeLimit limit(100);
+            QTest::failOnWarning(QRegularExpression(u"."_s));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write to"_s));
+            for (int i = 0; i < 4; ++i)
+                writer.append(line);
+            QCOMPARE(folder.read("status.log").size(), 80);
+        }
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Writing again to"_s));
+        writer.append(u"last"_s);
+        QCOMPARE(folder.read("status.log"), ((line + "\r\n"_L1).repeated(2) + "last\r\n"_L1).toUtf8());
+    }
+#endif
+};
+
+QTEST_GUILESS_MAIN(TestExperimentStorage)
+#include "tst_experimentstorage.moc"
