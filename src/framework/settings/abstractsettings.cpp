@@ -1,0 +1,6 @@
+#include "framework/settings/abstractsettings.h"
+
+QVariant AbstractSettings::getValue(const QString & /*name*/)
+{
+    return {};
+}
