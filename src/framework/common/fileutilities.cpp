@@ -17,16 +17,15 @@ constexpr int FileSizeDecimals = 1;
 
 void appendSubfolders(const QString &base, const QString &prefix, bool recursive, QStringList &out)
 {
-    const QDir dir(base);
-    const auto filter = QDir::Dirs | QDir::NoDotAndDotDot | (recursive ? QDir::NoSymLinks : QDir::Filter(0));
-    const QStringList names = dir.entryList(filter);
-    for (const QString &name : names) {
+    // A link may lead back to where it stands: it is listed, but not followed.
+    const QFileInfoList folders = QDir(base).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders) {
+        const QString name = folder.fileName();
         if (name.startsWith('.'_L1))
             continue;
-        const QString path = prefix + name + '/'_L1;
-        out.append(path);
-        if (recursive)
-            appendSubfolders(base + name + '/'_L1, path, true, out);
+        out.append(prefix + name + '/'_L1);
+        if (recursive && !folder.isSymLink())
+            appendSubfolders(base + name + '/'_L1, prefix + name + '/'_L1, true, out);
     }
 }
 
