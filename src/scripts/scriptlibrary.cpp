@@ -1,0 +1,129 @@
+#include "scripts/scriptlibrary.h"
+
+#include "framework/common/fileutilities.h"
+#include "scripts/speedscript.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(lcLibrary, "spinbar.scripts.library")
+
+namespace {
+
+const QString Suffix = u"xml"_s;
+
+/// A title with a separator would be a path and lead to a file outside the folder.
+bool isFileName(const QString &title)
+{
+    return QFileInfo(title).fileName() == title && !title.contains(QChar::Null);
+}
+
+ScriptLibrary::Outcome logged(ScriptLibrary::Outcome outcome, const QString &path)
+{
+    qCWarning(lcLibrary) << outcome << path;
+    return outcome;
+}
+
+} // namespace
+
+ScriptLibrary::ScriptLibrary(const QString &folder)
+    : m_folder(FileUtilities::FolderSlash(folder))
+{}
+
+QStringList ScriptLibrary::titles() const
+{
+    QStringList titles = FileUtilities::getFilesOfType(m_folder, Suffix, false, false);
+    for (QString &title : titles)
+        title = QFileInfo(title).completeBaseName();
+    return titles;
+}
+
+QString ScriptLibrary::findFile(const QString &title) const
+{
+    const QStringList files = FileUtilities::getFilesOfType(m_folder, Suffix, false, true);
+    for (const QString &file : files) {
+        if (QFileInfo(file).completeBaseName() == title)
+            return file;
+    }
+    return {};
+}
+
+QString ScriptLibrary::filePath(const QString &title) const
+{
+    return m_folder + title + '.'_L1 + Suffix;
+}
+
+std::unique_ptr<SpeedScript> ScriptLibrary::load(const QString &title) const
+{
+    const QString file = findFile(title);
+    if (file.isEmpty())
+        return nullptr;
+    auto script = std::make_unique<SpeedScript>(file);
+    script->reload();
+    script->parsePoints();
+    return script;
+}
+
+int ScriptLibrary::indexToSelect(const QStringList &titles, const QString &remembered)
+{
+    for (qsizetype i = titles.size() - 1; i >= 0; --i) {
+        if (titles[i].compare(remembered, Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    }
+    return titles.isEmpty() ? -1 : 0;
+}
+
+ScriptLibrary::Outcome ScriptLibrary::checkTitle(const QString &title, bool mustBeFree) const
+{
+    const QString trimmed = title.trimmed();
+    if (trimmed.isEmpty())
+        return Outcome::EmptyTitle;
+    return mustBeFree && titles().contains(trimmed) ? Outcome::TitleTaken : Outcome::Done;
+}
+
+ScriptLibrary::Outcome ScriptLibrary::create(const QString &title) const
+{
+    if (const Outcome problem = checkTitle(title, true); problem != Outcome::Done)
+        return problem;
+    const QString trimmed = title.trimmed();
+    const QString path = filePath(trimmed);
+    if (!isFileName(trimmed))
+        return logged(Outcome::CannotSave, path);
+    SpeedScript(path).save();
+    return QFileInfo::exists(path) ? Outcome::Done : logged(Outcome::CannotSave, path);
+}
+
+ScriptLibrary::Outcome ScriptLibrary::clone(const QString &from, const QString &title) const
+{
+    if (const Outcome problem = checkTitle(title, true); problem != Outcome::Done)
+        return problem;
+    const QString trimmed = title.trimmed();
+    const QString path = filePath(trimmed);
+    const bool copied = isFileName(trimmed) && QFile::copy(filePath(from), path);
+    return copied ? Outcome::Done : logged(Outcome::CannotCopy, path);
+}
+
+ScriptLibrary::Outcome ScriptLibrary::rename(const QString &from, const QString &title) const
+{
+    if (const Outcome problem = checkTitle(title, false); problem != Outcome::Done)
+        return problem;
+    const QString trimmed = title.trimmed();
+    if (trimmed == from)
+        return Outcome::Unchanged;
+    const QString path = filePath(trimmed);
+    const bool renamed = isFileName(trimmed) && QFile::rename(filePath(from), path);
+    return renamed ? Outcome::Done : logged(Outcome::CannotRename, path);
+}
+
+ScriptLibrary::Outcome ScriptLibrary::remove(const QString &title) const
+{
+    const QString file = findFile(title);
+    // Without its data folder the system's trash would turn up in the current folder.
+    FileUtilities::createIfNotExists(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    const bool removed = !file.isEmpty() && QFile::moveToTrash(file);
+    return removed ? Outcome::Done : logged(Outcome::CannotRemove, file);
+}
