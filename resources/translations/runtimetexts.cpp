@@ -55,6 +55,19 @@ namespace {
     QT_TRANSLATE_NOOP("ShelterSideness", "RightSide"),
 };
 
+// Headings, units and statistics of the tables.
+[[maybe_unused]] constexpr const char *TableTexts[] = {
+    QT_TRANSLATE_NOOP("Generic", "Index"),      QT_TRANSLATE_NOOP("Generic", "Interval"),
+    QT_TRANSLATE_NOOP("Generic", "Time"),       QT_TRANSLATE_NOOP("Generic", "Distance"),
+    QT_TRANSLATE_NOOP("Generic", "Rotations"),  QT_TRANSLATE_NOOP("Generic", "Avg.speed"),
+    QT_TRANSLATE_NOOP("Generic", "Fall speed"), QT_TRANSLATE_NOOP("Generic", "Date"),
+    QT_TRANSLATE_NOOP("Generic", "Title"),      QT_TRANSLATE_NOOP("Generic", "Rodent"),
+    QT_TRANSLATE_NOOP("Generic", "Comment"),    QT_TRANSLATE_NOOP("Generic", "N"),
+    QT_TRANSLATE_NOOP("Generic", "m"),          QT_TRANSLATE_NOOP("Generic", " m"),
+    QT_TRANSLATE_NOOP("Generic", "m/s"),        QT_TRANSLATE_NOOP("Generic", "Average value"),
+    QT_TRANSLATE_NOOP("Generic", "Dispersion"), QT_TRANSLATE_NOOP("Generic", "Standard deviation"),
+};
+
 // The question before a change of language is put in the running and in the chosen language.
 [[maybe_unused]] constexpr const char *LanguageChangeTexts[] = {
     QT_TRANSLATE_NOOP("Generic", "Language change"),
