@@ -130,8 +130,13 @@ int SpinbarDetection::threshold() const
 
 void SpinbarDetection::setThreshold(int threshold)
 {
-    if (threshold >= MinThreshold && threshold <= MaxThreshold)
+    if (isThreshold(threshold))
         m_threshold = threshold;
+}
+
+bool SpinbarDetection::isThreshold(int value)
+{
+    return value >= MinThreshold && value <= MaxThreshold;
 }
 
 bool SpinbarDetection::isRat() const
@@ -152,4 +157,9 @@ qint64 SpinbarDetection::startTime() const
 int SpinbarDetection::lastValue() const
 {
     return m_lastValue;
+}
+
+qint64 SpinbarDetection::lastClock() const
+{
+    return m_lastClock;
 }

@@ -34,13 +34,15 @@ public:
 
     /// Readings below it count as covered.
     int threshold() const;
-    /// Takes 1 to 49 and ignores all else.
+    /// Takes what isThreshold() allows, 1 to 49, and ignores all else.
     void setThreshold(int threshold);
+    static bool isThreshold(int value);
 
     bool isRat() const;
     int index() const;
     qint64 startTime() const;
     int lastValue() const;
+    qint64 lastClock() const;
 
 signals:
     /// Comes with true only; the end of a run is told by lost().
