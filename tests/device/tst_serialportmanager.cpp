@@ -1,0 +1,140 @@
+#include "device/serialportmanager.h"
+#include "testline.h"
+
+#include <QPointer>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList namesOf(const QList<PortInfo> &ports)
+{
+    QStringList names;
+    for (const PortInfo &port : ports)
+        names.append(port.name);
+    return names;
+}
+
+} // namespace
+
+class TestSerialPortManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void firstAcquireCreatesAndTheSecondClaims()
+    {
+        const TestPorts ports({{u"A"_s, u"/a"_s, {}, {}}, {u"B"_s, u"/b"_s, {}, {}}});
+        SerialPortManager &manager = SerialPortManager::instance();
+        QSerialPort *port = manager.acquirePort(u"A"_s, u"link"_s);
+        QVERIFY(port);
+        QCOMPARE(manager.availablePortNames(u"UP"_s), QStringList({u"A"_s, u"B"_s}));
+        // Without an owner it goes to whoever calls next.
+        QCOMPARE(manager.acquirePort(u"A"_s, u"UP"_s), port);
+        QCOMPARE(manager.acquirePort(u"A"_s, u"UP"_s), port);
+        QCOMPARE(manager.acquirePort(u"A"_s, u"link"_s), nullptr);
+        QCOMPARE(manager.availablePortNames(u"link"_s), QStringList{u"B"_s});
+        QCOMPARE(manager.availablePortNames(u"UP"_s), QStringList({u"A"_s, u"B"_s}));
+        QCOMPARE(manager.acquirePort(u"C"_s, u"UP"_s), nullptr);
+    }
+
+    void releasesWhatTheOwnerHolds()
+    {
+        TestLine line(u"A"_s);
+        const TestPorts ports({line.info(), {u"B"_s, u"/b"_s, {}, {}}});
+        SerialPortManager &manager = SerialPortManager::instance();
+        const QPointer<QSerialPort> port = manager.acquirePort(u"A"_s, u"link"_s);
+        QVERIFY(port->open(QIODevice::ReadWrite));
+        manager.releaseOwner(u"link"_s);
+        manager.releaseOwner(QString());
+        QVERIFY2(port->isOpen(), "a port without an owner stays");
+        QCOMPARE(manager.acquirePort(u"A"_s, u"link"_s), port.data());
+        manager.releasePort(u"A"_s, u"UP"_s);
+        QVERIFY2(port->isOpen(), "held by another owner");
+        manager.releaseOwner(u"link"_s);
+        QVERIFY(!port->isOpen());
+        QCOMPARE_NE(manager.acquirePort(u"A"_s, u"link"_s), port.data());
+        QTRY_VERIFY2(!port, "released ports are freed");
+    }
+
+    void releaseOfAnUnheldNameLeavesNothing()
+    {
+        const TestPorts ports({{u"A"_s, u"/a"_s, {}, {}}});
+        SerialPortManager &manager = SerialPortManager::instance();
+        manager.releasePort(u"A"_s, u"link"_s);
+        QTest::ignoreMessage(QtDebugMsg, "");
+        QTest::ignoreMessage(QtDebugMsg, "");
+        manager.dumpPorts();
+        // Held by nobody: the first call makes it, the second claims it.
+        QSerialPort *port = manager.acquirePort(u"A"_s, u"link"_s);
+        manager.acquirePort(u"A"_s, u"link"_s);
+        QTest::ignoreMessage(QtDebugMsg, "P A link");
+        manager.dumpPorts();
+        manager.closeAll();
+        QCOMPARE_NE(manager.acquirePort(u"A"_s, u"UP"_s), port);
+    }
+
+    void portsOfTheEnvironmentStandBehindTheSystems()
+    {
+        QTemporaryDir folder;
+        TestLine line(u"unused"_s);
+        const QString link = folder.filePath(u"tty one"_s);
+        const QString system = QString::fromLatin1(line.terminal.devicePath().toLatin1());
+        QVERIFY(QFile::link(system, link));
+        qputenv("SPINBAR_SERIAL_PORTS",
+                (link + u";relative;/no/such/port;;"_s + system + u';' + link).toLocal8Bit());
+        const QList<PortInfo> ports = SerialPorts::listed();
+        qputenv("SPINBAR_SERIAL_PORTS", "");
+        const QList<PortInfo> systemPorts = SerialPorts::listed();
+        QCOMPARE(ports.first(systemPorts.size()), systemPorts);
+        const QList<PortInfo> expected{{link, link, u"Additional port"_s, {}},
+                                       {system.mid(5), system, u"Additional port"_s, {}}};
+        QCOMPARE(namesOf(ports.sliced(systemPorts.size())), namesOf(expected));
+        QVERIFY(ports.sliced(systemPorts.size()) == expected);
+    }
+
+    void numbersAreStableAndUnique()
+    {
+        QCOMPARE(SerialPorts::number(u"COM7"_s), 7);
+        QCOMPARE(SerialPorts::number(u"COM256"_s), 256);
+#ifndef Q_OS_WIN
+        QSet<int> numbers;
+        const QStringList names{u"ttyUSB0"_s, u"ttyUSB1"_s, u"pts/7"_s, u"7"_s, u"COM"_s, u"/tmp/COM7"_s};
+        for (const QString &name : names) {
+            const int number = SerialPorts::number(name);
+            QVERIFY(number > 4096);
+            numbers.insert(number);
+        }
+        QCOMPARE(numbers.size(), names.size());
+        QCOMPARE(SerialPorts::number(u"ttyUSB0"_s), *std::min_element(numbers.begin(), numbers.end()));
+#endif
+    }
+
+    void filterKeepsCandidates_data()
+    {
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<QString>("manufacturer");
+        QTest::addColumn<bool>("asText");
+        QTest::addColumn<bool>("asBytes");
+        QTest::newRow("plain") << u"USB-SERIAL CH340"_s << u"wch.cn"_s << true << true;
+        QTest::newRow("FTDI") << u"USB Serial Port"_s << u"FTDI"_s << false << true;
+        QTest::newRow("FTDI only as the whole name") << u"FTDI"_s << u"FTDI Ltd"_s << true << true;
+        QTest::newRow("main board") << u"Последовательный порт (1)"_s << u"FTD"_s << false << false;
+        QTest::newRow("lower case") << u"последовательный порт"_s << QString() << true << true;
+        QTest::newRow("Bluetooth") << u"Standard Serial over Bluetooth link"_s << QString() << false << false;
+        QTest::newRow("bluetooth") << u"bluetooth"_s << QString() << true << true;
+    }
+
+    void filterKeepsCandidates()
+    {
+        QFETCH(QString, description);
+        QFETCH(QString, manufacturer);
+        const PortInfo port{u"COM3"_s, u"COM3"_s, description, manufacturer};
+        QTEST(SerialPorts::isCandidate(port, true), "asText");
+        QTEST(SerialPorts::isCandidate(port, false), "asBytes");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSerialPortManager)
+#include "tst_serialportmanager.moc"
