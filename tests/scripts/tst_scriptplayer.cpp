@@ -4,33 +4,29 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cstdlib>
-#include <new>
+#include <atomic>
+#include <cstddef>
 
 using namespace Qt::StringLiterals;
 
-namespace {
+// Counts every allocation of the process, those of Qt's containers too, which take no operator new.
+static std::atomic<qint64> allocations = 0;
 
-qint64 allocations = 0;
-
-} // namespace
-
-void *operator new(std::size_t size)
+extern "C" {
+#ifdef __SANITIZE_ADDRESS__
+void __sanitizer_malloc_hook(const volatile void *, std::size_t)
 {
     ++allocations;
-    if (void *memory = std::malloc(size))
-        return memory;
-    std::abort();
 }
+#else
+void *__libc_malloc(std::size_t size);
 
-void operator delete(void *memory) noexcept
+void *malloc(std::size_t size)
 {
-    std::free(memory);
+    ++allocations;
+    return __libc_malloc(size);
 }
-
-void operator delete(void *memory, std::size_t) noexcept
-{
-    std::free(memory);
+#endif
 }
 
 /// What the player orders, one word each: speeds as numbers, "stop", "cycle 1/3", "ended".
@@ -86,12 +82,14 @@ private slots:
         QCOMPARE(m_log, before);
     }
 
-    void endlessScriptShowsNoTotalAndDoesNotEnd()
+    void endlessScriptShowsNoTotalAndEndsWithAnotherChoice()
     {
         start(ramp(), true, 1);
         advance(10000 * 5);
-        QCOMPARE(m_player->cycle(), 5);
         QCOMPARE(m_player->cycleText(), u"6"_s);
+        m_player->setScript(nullptr);
+        QCOMPARE(m_log.last(), u"stop"_s);
+        QVERIFY(!m_player->isRunning() && m_player->table().isEmpty());
     }
 
     void emptyTableEndsByItselfAfterOneStep()
@@ -102,15 +100,6 @@ private slots:
         QVERIFY(m_player->isRunning());
         advance(50);
         QCOMPARE(m_log, QStringList({u"cycle 1"_s, u"cycle "_s, u"stop"_s, u"ended"_s}));
-    }
-
-    void choosingAScriptEndsTheRun()
-    {
-        start(ramp(), true, 1);
-        advance(400);
-        m_player->setScript(nullptr);
-        QCOMPARE(m_log.last(), u"stop"_s);
-        QVERIFY(!m_player->isRunning() && m_player->table().isEmpty());
     }
 
     void clockThatJumpsMovesTheIndex()
@@ -134,33 +123,23 @@ private slots:
 
     void tickAllocatesNothing()
     {
-        SpeedScript script{QString()};
-        script.setPointList(ramp());
-        script.setDurationSeconds(10);
-        ScriptPlayer player(nullptr, [this] { return m_now; });
+        start(ramp(), true, 1);
+        disconnect(m_player.get(), nullptr, this, nullptr); // the log of this test does allocate
         double sum = 0;
-        connect(&player, &ScriptPlayer::speedDue, this, [&sum](double v) { sum += v; });
-        player.setScript(&script);
-        player.setRunning(true);
+        connect(m_player.get(), &ScriptPlayer::speedDue, this, [&sum](double v) { sum += v; });
         const qint64 before = allocations;
-        for (int i = 0; i < 1000; ++i) {
-            m_now += 50;
-            player.tick();
-        }
+        QVERIFY(before > 0);
+        advance(50'000);
         QCOMPARE(allocations - before, 0);
         QVERIFY(sum > 0);
     }
 
     void timerDrivesARun()
     {
-        SpeedScript script{QString()};
-        ScriptPlayer player;
-        QSignalSpy ended(&player, &ScriptPlayer::ended);
-        QSignalSpy stop(&player, &ScriptPlayer::stopDue);
-        player.setScript(&script);
-        player.setRunning(true);
+        m_player = std::make_unique<ScriptPlayer>();
+        QSignalSpy ended(m_player.get(), &ScriptPlayer::ended);
+        start({}, true, 1);
         QVERIFY(ended.wait());
-        QCOMPARE(stop.size(), 2); // by the choice of the script and at its end
     }
 
 private:
