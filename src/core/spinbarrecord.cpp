@@ -2,6 +2,7 @@
 
 #include "core/boundedmath.h"
 #include "core/experimentstatistics.h"
+#include "core/statusline.h"
 
 #include "framework/common/fileutilities.h"
 
@@ -62,7 +63,7 @@ void SpinbarRecord::addStatus(const QString &line)
 {
     if (!m_statusLog.isOpen())
         return;
-    if (const auto sample = StatusLog::sampleOfMessage(line)) {
+    if (const auto sample = StatusLine::sampleOfMessage(line)) {
         if (m_data.firstDeviceTime == 0)
             m_data.firstDeviceTime = sample->timeMs;
         m_lastDeviceTime = sample->timeMs;
@@ -100,10 +101,11 @@ void SpinbarRecord::loadStatus(bool force)
     const auto &samples = m_counters.samples();
     if (samples.size() < MinSamplesForSpeeds)
         return;
-    m_speeds.clear();
-    m_speeds.reserve(qsizetype(samples.size()) - 1);
-    for (std::size_t i = 1; i < samples.size(); ++i)
-        m_speeds.append(stepSpeed(samples[i].counter, samples[i - 1].counter));
+    m_speeds.resize(qsizetype(samples.size()) - 1);
+    std::transform(samples.cbegin() + 1, samples.cend(), samples.cbegin(), m_speeds.begin(),
+                   [](const StatusSample &later, const StatusSample &earlier) {
+                       return stepSpeed(later.counter, earlier.counter);
+                   });
 }
 
 void SpinbarRecord::releaseStatus()

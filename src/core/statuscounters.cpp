@@ -18,18 +18,11 @@ bool isEarlier(const StatusSample &a, const StatusSample &b)
 
 } // namespace
 
-void StatusCounters::insert(qint64 timeMs, qint64 counter)
+void StatusCounters::insertOutOfOrder(qint64 timeMs, qint64 counter)
 {
-    const bool sorted = m_sorted == m_samples.size();
-    if (m_samples.empty() || timeMs > m_latest.timeMs) {
-        m_latest = {timeMs, counter};
-        m_samples.push_back(m_latest);
-        m_sorted += sorted ? 1 : 0;
-        return;
-    }
     if (timeMs == m_latest.timeMs) {
         m_latest.counter = counter;
-        if (sorted) {
+        if (m_sorted == m_samples.size()) {
             m_samples.back().counter = counter;
             return;
         }

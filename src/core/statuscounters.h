@@ -23,6 +23,7 @@ public:
 
     /// A repeated time replaces the earlier counter.
     void insert(qint64 timeMs, qint64 counter);
+    void reserve(std::size_t count) { m_samples.reserve(count); }
     void clear();
 
     bool isEmpty() const { return m_samples.empty(); }
@@ -34,6 +35,7 @@ public:
     const StatusSample *firstMatch(qint64 timeMs, qint64 toleranceMs) const;
 
 private:
+    void insertOutOfOrder(qint64 timeMs, qint64 counter);
     void sortTail() const;
 
     mutable Samples m_samples;
@@ -41,3 +43,16 @@ private:
     mutable std::size_t m_sorted = 0;
     StatusSample m_latest;
 };
+
+inline void StatusCounters::insert(qint64 timeMs, qint64 counter)
+{
+    const bool sorted = m_sorted == m_samples.size();
+    if (!m_samples.empty() && timeMs <= m_latest.timeMs) {
+        insertOutOfOrder(timeMs, counter);
+        return;
+    }
+    m_latest.timeMs = timeMs;
+    m_latest.counter = counter;
+    m_samples.push_back({timeMs, counter});
+    m_sorted += sorted ? 1 : 0;
+}

@@ -1,92 +1,33 @@
 #include "core/statuslog.h"
 
 #include "core/recordslog.h"
+#include "core/statusline.h"
 
 #include <QByteArray>
 #include <QFileInfo>
-#include <QString>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MinMessageFields = 5;
-constexpr int MinStoredFields = 8;
-constexpr int Hexadecimal = 16;
 constexpr qsizetype ChunkBytes = 256 * 1024;
 // What is kept of a line that goes on and on: enough for its last two fields.
 constexpr qsizetype MaxHeldBytes = 64 * 1024;
-// So many digits fit a signed 64-bit number whatever they are.
-constexpr qsizetype MaxPlainDigits = 15;
+// Shorter lines than a log has, so that the room for its samples is made once.
+constexpr qint64 BytesPerLineEstimate = 32;
+constexpr qint64 MaxLinesEstimate = 1'000'000;
 
-constexpr std::array<qint8, 256> digitValues()
-{
-    std::array<qint8, 256> values{};
-    values.fill(-1);
-    for (int i = 0; i < 10; ++i)
-        values[std::size_t('0' + i)] = qint8(i);
-    for (int i = 0; i < 6; ++i)
-        values[std::size_t('a' + i)] = values[std::size_t('A' + i)] = qint8(10 + i);
-    return values;
-}
-
-std::optional<qint64> hexadecimal(const char *begin, const char *end)
-{
-    static constexpr auto Digits = digitValues();
-    qint64 value = 0;
-    const char *at = begin;
-    for (; at != end && Digits[quint8(*at)] >= 0; ++at) {
-        if (at - begin == MaxPlainDigits)
-            break;
-        value = value * Hexadecimal + Digits[quint8(*at)];
-    }
-    if (at == end && at != begin)
-        return value;
-    // Blanks, signs, prefixes and long numbers are rare enough to go the long way.
-    bool ok = false;
-    value = QString::fromUtf8(begin, end - begin).trimmed().toLongLong(&ok, Hexadecimal);
-    return ok ? std::optional(value) : std::nullopt;
-}
-
-const char *lastSeparator(const char *begin, const char *end)
-{
-    const auto found = std::find(std::make_reverse_iterator(end), std::make_reverse_iterator(begin), ';');
-    return found.base() == begin ? nullptr : found.base() - 1;
-}
-
-/// Fields are separated by ";"; \a cutSeparators stood in a part of the line that was not kept.
 void takeLine(const char *begin, const char *end, qint64 cutSeparators, StatusCounters &counters)
 {
-    while (end != begin && (end[-1] == '\r' || end[-1] == ' '))
-        --end;
-    const char *beforeTime = lastSeparator(begin, end);
-    const char *beforeCounter = beforeTime ? lastSeparator(begin, beforeTime) : nullptr;
-    if (!beforeCounter)
-        return;
-    constexpr int SeparatorsOfLastTwo = 2;
-    if (cutSeparators + std::count(begin, beforeCounter, ';') + SeparatorsOfLastTwo + 1 < MinStoredFields)
-        return;
-    if (const auto time = hexadecimal(beforeTime + 1, end))
-        counters.insert(*time, hexadecimal(beforeCounter + 1, beforeTime).value_or(0));
+    StatusSample sample;
+    if (StatusLine::readStoredLine(begin, end, cutSeparators, sample))
+        counters.insert(sample.timeMs, sample.counter);
 }
 
 } // namespace
-
-std::optional<StatusSample> StatusLog::sampleOfMessage(QStringView line)
-{
-    if (line.count(u',') + 1 < MinMessageFields)
-        return std::nullopt;
-    const qsizetype beforeTime = line.lastIndexOf(u',');
-    const qsizetype beforeCounter = line.first(beforeTime).lastIndexOf(u',');
-    const QStringView counter = line.sliced(beforeCounter + 1, beforeTime - beforeCounter - 1);
-    return StatusSample{line.sliced(beforeTime + 1).toLongLong(nullptr, Hexadecimal),
-                        counter.toLongLong(nullptr, Hexadecimal)};
-}
 
 bool StatusLog::read(const QString &path, StatusCounters &counters)
 {
@@ -97,6 +38,7 @@ bool StatusLog::read(const QString &path, StatusCounters &counters)
         return false;
     }
     counters.clear();
+    counters.reserve(std::size_t(std::min(file.size() / BytesPerLineEstimate, MaxLinesEstimate)));
     QByteArray buffer(MaxHeldBytes + ChunkBytes, Qt::Uninitialized);
     char *const start = buffer.data();
     qsizetype held = 0;

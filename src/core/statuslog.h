@@ -3,16 +3,10 @@
 #include "core/statuscounters.h"
 
 #include <QFile>
-#include <QStringView>
+#include <QString>
 
-#include <optional>
-
-/// "status.log": one line per status message, its fields joined by ";". Only the last two are ever read
-/// again: the rotation counter and the device time, both hexadecimal.
+/// "status.log": one line per status message, its fields joined by ";", in order.
 namespace StatusLog {
-
-/// Of a comma separated message with 5 fields or more; a field that is no number reads as 0.
-std::optional<StatusSample> sampleOfMessage(QStringView line);
 
 /// Replaces \a counters by those of the file; lines of fewer than 8 fields or without a time are skipped.
 /// False, with \a counters untouched, if it can't be opened. Reads in pieces, so neither the file's size nor
