@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype QueueLimitBytes = 1024 * 1024;
+constexpr qsizetype QueueLimitBytes = 1'048'576;
 /// What has waited for so long behind the system's full buffer is old news: a program that opens the line
 /// later is not to be fed with it.
 constexpr int UnreadMs = 2000;

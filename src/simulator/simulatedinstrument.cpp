@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// No command is anywhere near as long; what comes without an end is noise.
-constexpr qsizetype MaxUnfinishedBytes = 64 * 1024;
+constexpr qsizetype MaxUnfinishedBytes = 65'536;
 constexpr double StepNs = Instrument::StepMs * 1e6;
 
 /// A scenario may send broken frames: what brings braces of its own goes out as it stands. No byte of any
