@@ -16,15 +16,18 @@ Q_LOGGING_CATEGORY(settingsLog, "spinbar.settings")
 
 namespace {
 
-// Opening cuts the file to nothing, so the text follows at once and in a single write.
+// The new text goes over the old one in a single write, and what the old one had more is cut behind it. So
+// the file is never short, a full disk does not cost the old text, and the slow cutting of a file to nothing
+// (milliseconds on some systems) is spared.
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
+        && !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         qCWarning(settingsLog) << "Cannot write" << path << file.errorString();
         return false;
     }
-    if (file.write(bytes) != bytes.size())
+    if (file.write(bytes) != bytes.size() || (file.size() > bytes.size() && !file.resize(bytes.size())))
         qCWarning(settingsLog) << "Written in part only" << path << file.errorString();
     return true;
 }

@@ -75,6 +75,9 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(m_path) && QFileInfo::exists(m_folder->filePath(u"deep/er"_s)));
         settings.setDelay(7.5);
         QCOMPARE(SettingsWalk::contents(m_path), FirstFile);
+        settings.setTitle(u"longer"_s.repeated(1000));
+        settings.setTitle({});
+        QCOMPARE(SettingsWalk::contents(m_path), FirstFile);
     }
 
     void setterSignalsInOrderAndOnlyOnChange()
