@@ -68,7 +68,7 @@ void appendRamp(Table &table, const ScriptPoint &from, const ScriptPoint &to)
 void appendTail(Table &table, const ScriptPoint &last, qint64 durationMs)
 {
     const qint64 missingMs = std::max(durationMs - table.timeMs(), qint64(1));
-    table.append(static_cast<double>((missingMs + ScriptStepMs - 1) / ScriptStepMs), last.speed, 0);
+    table.append(std::ceil(static_cast<double>(missingMs) / ScriptStepMs), last.speed, 0);
 }
 
 } // namespace

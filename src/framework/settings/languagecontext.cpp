@@ -83,13 +83,14 @@ void LanguageContext::install(const QString &language)
     if (files == m_files.constEnd())
         return;
     for (const QString &file : *files) {
-        auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+        auto translator = std::make_unique<QTranslator>();
         if (!translator->load(file)) {
             qCWarning(lcLanguage) << "cannot load" << file;
             continue;
         }
-        QCoreApplication::installTranslator(translator.get());
-        translator.release(); // the application owns it as its parent
+        QTranslator *installed = translator.release();
+        installed->setParent(QCoreApplication::instance());
+        QCoreApplication::installTranslator(installed);
     }
     m_currentLanguage = language;
 }

@@ -14,7 +14,7 @@ constexpr auto ClosingMark = "</"_L1;
 constexpr qsizetype LanguageNameLength = 5;
 
 // A settings file is a few kilobytes; something larger put in its place must not fill the memory.
-constexpr qint64 MaxSettingsBytes = 16 * 1024 * 1024;
+constexpr qint64 MaxSettingsBytes = 16LL * 1024 * 1024;
 
 } // namespace
 
