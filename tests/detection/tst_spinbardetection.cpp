@@ -1,5 +1,7 @@
 #include "detection/spinbardetection.h"
 
+#include "detection/lanethresholds.h"
+
 #include <QTest>
 
 #include <limits>
@@ -186,6 +188,27 @@ private slots:
             detection.setThreshold(asked);
             QCOMPARE(detection.threshold(), kept);
         }
+    }
+
+    void thresholdsComeFromText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("lanes");
+        QTest::addColumn<QList<int>>("thresholds");
+        QTest::newRow("rats") << u"1;34;49;20"_s << 4 << QList<int>{1, 34, 49, 20};
+        QTest::newRow("what is no threshold is dropped")
+            << u";1;x;2;0;50;3;-4;4;5.5;"_s << 4 << QList<int>{1, 2, 3, 4};
+        QTest::newRow("too few") << u"1;2;3;50"_s << 4 << QList<int>();
+        QTest::newRow("of the other drum") << u"1;2;3;4;5;6;7"_s << 4 << QList<int>();
+        QTest::newRow("mice") << u"1;2;3;4;5;6;7"_s << 7 << QList<int>{1, 2, 3, 4, 5, 6, 7};
+        QTest::newRow("never calibrated") << QString() << 7 << QList<int>();
+    }
+
+    void thresholdsComeFromText()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, lanes);
+        QTEST(LaneThresholds::fromText(text, lanes), "thresholds");
     }
 
     void extremeClocksAndCountersAreHarmless()
