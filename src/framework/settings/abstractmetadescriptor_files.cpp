@@ -12,9 +12,9 @@
 
 using namespace Qt::StringLiterals;
 
-Q_LOGGING_CATEGORY(settingsLog, "spinbar.settings")
-
 namespace {
+
+Q_LOGGING_CATEGORY(settingsLog, "spinbar.settings")
 
 // The new text goes over the old one in a single write, and what the old one had more is cut behind it. So
 // the file is never short, a full disk does not cost the old text, and the slow cutting of a file to nothing

@@ -187,7 +187,7 @@ void MetaDescription::readSpecialType()
 
 bool MetaDescription::parsePointOrSize(const QString &text, double &a, double &b)
 {
-    const QStringList parts = withoutPointSyntax(text).split(','_L1);
+    const QStringList parts = withoutPointSyntax(text).split(','_L1, Qt::SkipEmptyParts);
     if (parts.size() != 2)
         return false;
     a = parts.at(0).toDouble();

@@ -6,6 +6,7 @@
 #include "framework/common/fileutilities.h"
 
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QXmlStreamWriter>
 
 using namespace Qt::StringLiterals;
@@ -32,12 +33,14 @@ bool NTSettings::reload()
 {
     if (m_filepath.isEmpty())
         return false;
-    m_reloading = true;
-    if (m_format == XML)
-        metaDescriptor()->load(m_filepath);
-    else
-        metaDescriptor()->loadFromJsonFile(m_filepath);
-    m_reloading = false;
+    {
+        // A slot may reload once more while this one still runs.
+        const QScopedValueRollback reloading(m_reloading, true);
+        if (m_format == XML)
+            metaDescriptor()->load(m_filepath);
+        else
+            metaDescriptor()->loadFromJsonFile(m_filepath);
+    }
     Q_EMIT reloaded();
     return true;
 }

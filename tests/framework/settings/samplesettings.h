@@ -58,3 +58,17 @@ private:
 
     int m_fleeting = 0;
 };
+
+/// Children of an element are written but not read.
+class MapSettings : public NTSettings
+{
+    Q_OBJECT
+    NT_PROPERTY(int, Before, 1)
+    NT_PROPERTY(StringMap, Entries, StringMap())
+    NT_PROPERTY(int, After, 1)
+
+public:
+    MapSettings()
+        : NTSettings({}, false, nullptr, XML)
+    {}
+};

@@ -115,6 +115,12 @@ private Q_SLOTS:
         QCOMPARE(log, (QStringList{u"Count"_s, u"reloaded"_s}));
         QCOMPARE(QFileInfo(m_path).lastModified(), before);
         log.clear();
+        connect(&reader, &SampleSettings::changedTitle, this, [&] { reader.reload(); });
+        writer.setTitle(u"t"_s);
+        writer.setRatio(0.5);
+        reader.reload();
+        QVERIFY(!log.contains(u"saved"_s));
+        log.clear();
         QVERIFY(reader.loadFromQVariantMap({{u"Count"_s, 5}, {u"Fleeting"_s, 5}, {u"Foreign"_s, 5}}));
         QCOMPARE(log, (QStringList{u"Count"_s, u"saved"_s}));
         QCOMPARE(reader.getValue(u"Fleeting"_s), QVariant(0));
@@ -230,6 +236,22 @@ private Q_SLOTS:
         QCOMPARE(settings.loadFromJson(QString::fromLatin1(QTest::currentDataTag())), ok);
         QTEST(settings.getCount(), "count");
         QCOMPARE(settings.getDrive(), SampleSettings::Mode::Fast);
+    }
+
+    void mapIsWrittenAndEndsTheReading()
+    {
+        MapSettings settings;
+        settings.setBefore(2);
+        settings.setEntries({{u"b"_s, u"<"_s}, {u"a"_s, u"1"_s}});
+        settings.setAfter(2);
+        const QString text = settings.saveToString();
+        QVERIFY(text.contains(
+            "    <Entries>\n        <a>1</a>\n        <b>&lt;</b>\n    </Entries>\n    <After>2</After>\n"_L1));
+        MapSettings copy;
+        QVERIFY(copy.loadFromXMLString(text));
+        QCOMPARE(copy.getBefore(), 2);
+        QVERIFY(copy.getEntries().isEmpty());
+        QCOMPARE(copy.getAfter(), 1);
     }
 
     void severalObjectsShareADocument()
