@@ -7,6 +7,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 void UIHelper::ChangeBackground(QWidget *widget, const QColor &color)
 {
     QPalette palette = widget->palette();
@@ -19,9 +21,10 @@ void UIHelper::ChangeBorders(QFrame *frame, int width, const QColor &color)
 {
     frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
     frame->setLineWidth(width);
-    QPalette palette = frame->palette();
-    palette.setColor(QPalette::WindowText, color);
-    frame->setPalette(palette);
+    // Not through the palette: the application's style sheet gives everything its text colour, with which a
+    // plain box is drawn. The property keeps the colour from the frame's children.
+    frame->setProperty("ownBorder", true);
+    frame->setStyleSheet(u"*[ownBorder=\"true\"] { color: %1 }"_s.arg(color.name(QColor::HexArgb)));
 }
 
 void UIHelper::ClearLayout(QLayout *layout, bool deleteLayout)

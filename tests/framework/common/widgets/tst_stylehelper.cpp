@@ -1,9 +1,11 @@
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/common/widgets/themelink.h"
+#include "framework/common/widgets/uihelper.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -321,6 +323,15 @@ private slots:
         m_styler->selectTheme(u"light"_s);
         QCOMPARE(middles(), QList<QColor>(3, Qt::black));
         QCOMPARE(panel.grab().toImage().pixelColor(10, 10), QColor(0xDD, 0xDD, 0xDD));
+    }
+
+    void bordersKeepTheirColourUnderTheSheet()
+    {
+        QFrame frame;
+        frame.setFixedSize(20, 20);
+        UIHelper::ChangeBorders(&frame, 3, Qt::red);
+        QCOMPARE(frame.grab().toImage().pixelColor(1, 1), QColor(Qt::red));
+        QCOMPARE(frame.grab().toImage().pixelColor(2, 10), QColor(Qt::red));
     }
 
 private:
