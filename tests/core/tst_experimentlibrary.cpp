@@ -1,0 +1,123 @@
+#include "core/experimentlibrary.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using Outcome = ExperimentLibrary::RenameOutcome;
+Q_DECLARE_METATYPE(Outcome)
+
+namespace {
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QDir().mkpath(path.first(path.lastIndexOf(u'/')));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write");
+}
+
+} // namespace
+
+class TestExperimentLibrary : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        m_records = m_root->filePath(u"Records"_s) + u'/';
+        writeFile(m_records + "b/experiment.json"_L1,
+                  R"({"experiment":{"title":"T","comment":"C","timestamp":5,"items":[
+                      {"start":1,"end":2,"rotations":3,"rat":false},{"start":1,"end":1,"rotations":3}]}})");
+        writeFile(m_records + "a/experiment.json"_L1, "broken");
+        writeFile(m_records + "deep/er/other.json"_L1, "{}");
+        writeFile(m_records + "none/status.log"_L1, "");
+    }
+
+    void everyFolderWithAJsonFileIsListed()
+    {
+        writeFile(m_records + "a/copy.JSON"_L1, "{}");
+        writeFile(m_records + ".hidden/experiment.json"_L1, "{}");
+        QFile::link(m_records, m_records + "deep/circle"_L1);
+        const ExperimentLibrary library(m_records);
+        const QList<ExperimentEntry> entries = library.list();
+        QStringList names;
+        for (const ExperimentEntry &entry : entries)
+            names.append(entry.name);
+        QCOMPARE(names, QStringList({u"a"_s, u"a"_s, u"b"_s, u"er"_s}));
+        QVERIFY(entries[0].rat);
+        QCOMPARE(entries[0].items, 0);
+        QVERIFY(entries[0].timestamp > 1'000'000'000'000);
+        QCOMPARE(entries[2].path(), m_records + "b/experiment.json"_L1);
+        QCOMPARE(entries[2].title + entries[2].comment, u"TC"_s);
+        QCOMPARE(entries[2].timestamp, 5);
+        QCOMPARE(entries[2].items, 1);
+        QVERIFY(!entries[2].rat);
+        QVERIFY(ExperimentLibrary(m_root->filePath(u"nowhere"_s)).list().isEmpty());
+        QVERIFY(!QFile::exists(m_root->filePath(u"nowhere"_s)));
+    }
+
+    void renameHasAnOutcome_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Outcome>("outcome");
+        QTest::newRow("new") << u"  Крыса \u2116 7 "_s << Outcome::Renamed;
+        QTest::newRow("same but for case") << u" B "_s << Outcome::Unchanged;
+        QTest::newRow("empty") << u"  "_s << Outcome::EmptyName;
+        QTest::newRow("of another, other case") << u"ER"_s << Outcome::NameTaken;
+        QTest::newRow("of a folder that is no experiment") << u"none"_s << Outcome::Failed;
+        for (const char *name : {"..", ".", "../out", "x/y", "x\\y", "/tmp/x", "x:y", "x*", "x?", "<x", "x|y",
+                                 "\"x\"", "NUL", "com1.txt", "x.", ".x", "x\ty"})
+            QTest::newRow(name) << QString::fromLatin1(name) << Outcome::Failed;
+        QTest::newRow("null character") << QString(QChar()) + u'x' << Outcome::Failed;
+        QTest::newRow("too long") << QString(300, u'x') << Outcome::Failed;
+    }
+
+    void renameHasAnOutcome()
+    {
+        QFETCH(QString, name);
+        QFETCH(Outcome, outcome);
+        QString folder;
+        QCOMPARE(ExperimentLibrary(m_records).rename(m_records + "b/"_L1, name, &folder), outcome);
+        const bool renamed = outcome == Outcome::Renamed;
+        QCOMPARE(QFile::exists(m_records + "b/experiment.json"_L1), !renamed);
+        QCOMPARE(folder, renamed ? m_records + name.trimmed() + u'/' : QString());
+        if (renamed)
+            QVERIFY(QFile::exists(folder + "experiment.json"_L1));
+        QCOMPARE(QDir(m_root->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), {u"Records"_s});
+    }
+
+    void aDeeperExperimentMovesUpWithItsNewName()
+    {
+        const ExperimentLibrary library(m_records);
+        QCOMPARE(library.rename(m_records + "deep/er/"_L1, u"new"_s), Outcome::Renamed);
+        QVERIFY(QFile::exists(m_records + "new/other.json"_L1));
+    }
+
+    void removedFoldersAreInTheTrash()
+    {
+        const ExperimentLibrary library(m_records);
+        QVERIFY(library.remove(m_records + "b/"_L1));
+        QVERIFY(!QFile::exists(m_records + u'b'));
+        QVERIFY(!library.remove(m_records + "b/"_L1));
+        writeFile(m_records + "experiment.json"_L1, "{}");
+        writeFile(m_root->filePath(u"outside/experiment.json"_s), "{}");
+        for (const QString &folder :
+             {m_records, m_root->filePath(u"outside/"_s), m_records + "../outside/"_L1}) {
+            QVERIFY(!library.remove(folder));
+            QVERIFY(QFile::exists(folder + "experiment.json"_L1));
+        }
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_root;
+    QString m_records;
+};
+
+QTEST_GUILESS_MAIN(TestExperimentLibrary)
+#include "tst_experimentlibrary.moc"
