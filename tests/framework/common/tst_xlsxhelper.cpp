@@ -1,0 +1,189 @@
+#include "framework/common/xlsxhelper.h"
+
+#include "framework/common/zipreader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using XLSXHelper::Sheet;
+
+namespace {
+
+const QByteArray Mark = "\xEF\xBB\xBF";
+
+QByteArray content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// One part of a workbook; empty if it is not well-formed.
+QByteArray part(const QString &workbook, const QString &name)
+{
+    const QByteArray xml = zipEntries(content(workbook)).value(name.toUtf8());
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd())
+        reader.readNext();
+    return reader.hasError() ? QByteArray() : xml;
+}
+
+QStringList attributes(const QByteArray &xml, QLatin1StringView element, QLatin1StringView attribute)
+{
+    QStringList values;
+    for (QXmlStreamReader reader(xml); !reader.atEnd();) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element)
+            values.append(reader.attributes().value(attribute).toString());
+    }
+    return values;
+}
+
+/// "A1=text" or "A1#number" for each cell of a sheet.
+QStringList cells(const QString &workbook, int sheet)
+{
+    QStringList shared;
+    for (QXmlStreamReader reader(part(workbook, u"xl/sharedStrings.xml"_s)); !reader.atEnd();) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == "t"_L1)
+            shared.append(reader.readElementText());
+    }
+    QStringList result;
+    QXmlStreamReader reader(part(workbook, u"xl/worksheets/sheet%1.xml"_s.arg(sheet)));
+    QString place;
+    bool text = false;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == "c"_L1) {
+            place = reader.attributes().value("r"_L1).toString();
+            text = reader.attributes().value("t"_L1) == "s"_L1;
+        } else if (reader.name() == "v"_L1) {
+            const QString value = reader.readElementText();
+            result.append(text ? place + '='_L1 + shared.value(value.toInt()) : place + '#'_L1 + value);
+        } else if (reader.name() == "f"_L1 || reader.name() == "hyperlink"_L1) {
+            result.append(u"formula or link"_s);
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+class TestXlsxHelper : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void csv_data()
+    {
+        QTest::addColumn<QList<Sheet>>("sheets");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("no sheet") << QList<Sheet>() << QByteArray();
+        QTest::newRow("no rows") << QList<Sheet>{{u"n"_s, {}}} << QByteArray("n\r\n\r\n\r\n");
+        QTest::newRow("cells") << QList<Sheet>{{u"n"_s, {{u"a"_s, u"b"_s}, {}, {u"Ё;\"x"_s}}}}
+                               << QByteArray("n\r\na;b;\r\n\r\nЁ;\"x;\r\n\r\n\r\n");
+        QTest::newRow("numbers") << QList<Sheet>{{u"n"_s, {{0.1, 5.0, 100000.0, 7, std::nan("")}}}}
+                                 << QByteArray("n\r\n0.1;5;1e+05;7;0;\r\n\r\n\r\n");
+        QTest::newRow("two sheets") << QList<Sheet>{{u"n"_s, {{1}}}, {u"m"_s, {}}}
+                                    << QByteArray("n\r\n1;\r\n\r\n\r\nm\r\n\r\n\r\n");
+    }
+
+    void csv()
+    {
+        QFETCH(QList<Sheet>, sheets);
+        QFETCH(QByteArray, text);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"Таблица 1.csv"_s);
+        QVERIFY(XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s));
+        QCOMPARE(content(path), Mark + text);
+        QCOMPARE(QTextCodec::codecForLocale()->name(), "UTF-8");
+    }
+
+    void workbookHoldsNumbersAndTexts()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"Таблица 1.xlsx"_s);
+        const QString longText(40000, u'Ж');
+        const XLSXHelper::Rows rows{{u"=1+1"_s, u"https://example.org"_s, 1.5, 7, u"12"_s},
+                                    {},
+                                    {u""_s, std::nan(""), HUGE_VAL, 1.0 / 3},
+                                    {u"_x0041_"_s, u"a\0\uFFFF"_s, longText},
+                                    {u"{R} Крыса <&>"_s}};
+        QVERIFY(XLSXHelper::dataToXLSX({{u"one"_s, rows}, {u"two"_s, {}}}, path));
+        QCOMPARE(
+            cells(path, 1),
+            QStringList({u"A1==1+1"_s, u"B1=https://example.org"_s, u"C1#1.5"_s, u"D1#7"_s, u"E1=12"_s,
+                         u"B3#0"_s, u"C3#0"_s, u"D3#0.3333333333333333"_s, u"A4=_x005F_x0041_"_s,
+                         u"B4=a\uFFFD\uFFFD"_s, "C4="_L1 + longText.first(32767), u"A5={R} Крыса <&>"_s}));
+        QVERIFY(cells(path, 2).isEmpty());
+        QCOMPARE(attributes(part(path, u"xl/workbook.xml"_s), "sheet"_L1, "name"_L1),
+                 QStringList({u"one"_s, u"two"_s}));
+        // The reader's own margin of 5 of 7 pixels is part of the stored width.
+        const QStringList widths =
+            attributes(part(path, u"xl/worksheets/sheet1.xml"_s), "col"_L1, "width"_L1);
+        QCOMPARE(widths.size(), 5);
+        QCOMPARE(qRound(widths[0].toDouble() - 0.71), int(u"{R} Крыса <&>"_s.size()) + 2);
+        QCOMPARE(qRound(widths[2].toDouble() - 0.71), 60);
+        QCOMPARE(qRound(widths[4].toDouble() - 0.71), 8);
+    }
+
+    void sheetNames_data()
+    {
+        QTest::addColumn<QStringList>("wanted");
+        QTest::addColumn<QStringList>("names");
+        const QString thirty(30, u'я');
+        const auto row = [](const char *name, const QStringList &wanted, const QStringList &names) {
+            QTest::newRow(name) << wanted << names;
+        };
+        row("plain", {u"2024.03.09-07.05.01.042"_s}, {u"2024.03.09-07.05.01.042"_s});
+        row("forbidden signs", {u"[a]:*?/\\b\n"_s}, {u"_a______b_"_s});
+        row("nothing left", {u"a"_s, u""_s, u" ' "_s}, {u"a"_s, u"Sheet2"_s, u"Sheet3"_s});
+        row("reserved", {u"History"_s}, {u"History (2)"_s});
+        row("twice but for case", {u"Сводка"_s, u"сводка"_s, u"СВОДКА"_s},
+            {u"Сводка"_s, u"сводка (2)"_s, u"СВОДКА (3)"_s});
+        row("the mended one is taken", {u"a (2)"_s, u"a"_s, u"A"_s}, {u"a (2)"_s, u"a"_s, u"A (3)"_s});
+        row("long", {thirty + u"abc"_s, thirty + u"abd"_s}, {thirty + u"a"_s, thirty.first(27) + u" (2)"_s});
+        row("no half of a pair", {thirty + u"\U0001F400"_s}, {thirty});
+        row("apostrophes", {u"'Rat's'"_s}, {u"Rat's"_s});
+    }
+
+    void sheetNames()
+    {
+        QFETCH(QStringList, wanted);
+        QFETCH(QStringList, names);
+        QCOMPARE(XLSXHelper::sheetNames(wanted), names);
+        QList<Sheet> sheets;
+        for (const QString &name : wanted)
+            sheets.append({name, {{1}}});
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"names.xlsx"_s);
+        QVERIFY(XLSXHelper::dataToXLSX(sheets, path));
+        QCOMPARE(attributes(part(path, u"xl/workbook.xml"_s), "sheet"_L1, "name"_L1), names);
+    }
+
+    void failuresLeaveNothingAndKeepWhatWasThere()
+    {
+        const QTemporaryDir folder;
+        const QString missing = folder.filePath(u"none/a"_s);
+        QVERIFY(!XLSXHelper::dataToCSV({{1}}, missing, u"n"_s, u";"_s, u"\r\n"_s));
+        QVERIFY(!XLSXHelper::dataToXLSX({{1}}, missing, u"n"_s));
+        QVERIFY(!XLSXHelper::dataToXLSX({}, folder.filePath(u"a"_s)));
+        QVERIFY(!XLSXHelper::dataToCSV({{1}}, folder.path(), u"n"_s, u";"_s, u"\r\n"_s));
+        QVERIFY(QDir(folder.path()).isEmpty());
+
+        const QString kept = folder.filePath(u"kept.xlsx"_s);
+        QVERIFY(XLSXHelper::dataToXLSX({{1}}, kept, u"n"_s));
+        const QByteArray before = content(kept);
+        QVERIFY(!XLSXHelper::dataToXLSX({QList<QVariant>(20000, 1)}, kept, u"too wide"_s));
+        QCOMPARE(content(kept), before);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {u"kept.xlsx"_s});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestXlsxHelper)
+#include "tst_xlsxhelper.moc"
