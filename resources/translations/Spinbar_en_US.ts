@@ -778,6 +778,10 @@ hold and drag to desired position</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Speed graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>To create a new marker press anywhere on the blue line and drag the new marker to desired position.&lt;br&gt;</source>
         <translation type="unfinished"></translation>
     </message>

@@ -788,6 +788,10 @@ hold and drag to desired position</source>
         <translation>Информация по редактированию сценария</translation>
     </message>
     <message>
+        <source>Speed graph</source>
+        <translation>График скорости</translation>
+    </message>
+    <message>
         <source>To create a new marker press anywhere on the blue line and drag the new marker to desired position.&lt;br&gt;</source>
         <translation>Для создания нового маркера - нажмите в любом месте на синюю линию и перетяните новый маркер в желаемое положение.&lt;br&gt;</translation>
     </message>

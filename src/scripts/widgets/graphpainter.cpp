@@ -1,0 +1,246 @@
+#include "scripts/widgets/graphpainter.h"
+
+#include "device/curlyspinbar.h"
+#include "framework/common/widgets/stylehelper.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPolygon>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double FillOpacity = 0.2;
+constexpr int TickLength = 2;
+constexpr int LabelGap = 4; // between a marker's centre and its label
+constexpr int TimeDecimals = 1;
+
+QString generic(const char *text)
+{
+    return QCoreApplication::translate("Generic", text);
+}
+
+QColor themeColor(const QString &name, const QPen &fallback)
+{
+    return StyleHelper::ThemeColor(name, fallback.color());
+}
+
+} // namespace
+
+GraphPalette GraphPalette::ofTheme()
+{
+    GraphPalette palette;
+    palette.axis.setColor(themeColor(u"--n-grid-time-text"_s, palette.axis));
+    palette.grid.setColor(themeColor(u"--n-grid-line"_s, palette.grid));
+    palette.text.setColor(themeColor(u"--n-grid-time-text"_s, palette.text));
+    palette.barText.setColor(themeColor(u"--n-bg"_s, palette.barText));
+    palette.background.setColor(StyleHelper::ThemeColor(u"--n-bg"_s, palette.background.color()));
+    return palette;
+}
+
+GraphUnit GraphUnit::of(int dimension, bool isMouse)
+{
+    const double perSpeed =
+        CurlySpinbar::convertSpeed(1, CurlySpinbar::Speed_RotationsPerMinute, dimension, isMouse);
+    switch (dimension) {
+    case CurlySpinbar::RotationsPerMinute:
+        return {generic("rpm"), 1, perSpeed};
+    case CurlySpinbar::RotationsPerSecond:
+        return {generic("rps"), 3, perSpeed};
+    case CurlySpinbar::MetersPerSecond:
+        return {generic("m/s"), 4, perSpeed};
+    case CurlySpinbar::CentimetersPerSecond:
+        return {generic("cm/s"), 2, perSpeed};
+    case CurlySpinbar::KilometersPerHour:
+        return {generic("km/h"), 4, perSpeed};
+    default:
+        return {{}, 1, perSpeed};
+    }
+}
+
+GraphPainter::GraphPainter(QPainter &painter, const GraphFrame &frame, const GraphPalette &palette,
+                           const GraphUnit &unit)
+    : m_painter(painter)
+    , m_frame(frame)
+    , m_palette(palette)
+    , m_unit(unit)
+{
+    m_painter.translate(frame.plot.topLeft());
+}
+
+void GraphPainter::drawGrid()
+{
+    const int width = m_frame.scale.width;
+    const int height = m_frame.scale.height;
+    m_painter.fillRect(area(), m_palette.background);
+    drawTicks();
+    m_painter.setPen(m_palette.axis);
+    m_painter.drawLine(0, 0, 0, height);
+    m_painter.drawLine(0, height, width, height);
+    // Only what stands straight on the pixels is drawn without.
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void GraphPainter::drawTicks()
+{
+    const GraphGeometry::Scale &scale = m_frame.scale;
+    for (const auto &[x, rect, label] : GraphGeometry::timeTicks(scale, m_frame.metrics)) {
+        m_painter.setPen(m_palette.grid);
+        m_painter.drawLine(x, 0, x, scale.height);
+        m_painter.setPen(m_palette.text);
+        m_painter.drawLine(x, scale.height, x, scale.height + TickLength);
+        m_painter.drawText(rect, Qt::AlignHCenter | Qt::AlignTop, label);
+    }
+    for (const auto &[y, rect, label] : GraphGeometry::speedTicks(scale, m_frame.metrics, m_unit.perSpeed)) {
+        m_painter.setPen(m_palette.grid);
+        m_painter.drawLine(0, y, scale.width, y);
+        m_painter.setPen(m_palette.text);
+        m_painter.drawLine(0, y, -TickLength, y);
+        m_painter.drawText(rect, Qt::AlignRight | Qt::AlignVCenter, label);
+    }
+}
+
+void GraphPainter::drawTrace(const QList<double> &speeds)
+{
+    const QList<QPoint> line = GraphGeometry::traceLine(speeds, m_frame.scale);
+    // A record longer than the plot ends at the edge of the plot.
+    m_painter.setClipRect(area());
+    m_painter.setPen(m_palette.trace);
+    for (qsizetype i = 1; i < line.size(); ++i)
+        m_painter.drawLine(line[i - 1], line[i]);
+    fillBelow(line, m_palette.trace.color());
+    m_painter.setClipping(false);
+}
+
+void GraphPainter::drawLanes(int count, const QList<ExperimentItem> &bars)
+{
+    const GraphGeometry::Scale &scale = m_frame.scale;
+    constexpr int gap = 3;
+    for (int lane = 0; lane < count; ++lane) {
+        const int y = GraphGeometry::laneBottom(scale, m_frame.metrics, lane);
+        m_painter.setPen(m_palette.grid);
+        m_painter.drawLine(0, y, scale.width, y);
+        const QRect rect(-m_frame.metrics.labelWidth, y - GraphGeometry::LaneHeight,
+                         m_frame.metrics.labelWidth - gap, GraphGeometry::LaneHeight);
+        m_painter.setPen(m_palette.text);
+        m_painter.drawText(rect, Qt::AlignRight | Qt::AlignVCenter, QString::number(lane + 1));
+    }
+    const QRect lanes(0, 0, scale.width, m_frame.pictureSize.height());
+    int number = 0;
+    for (const ExperimentItem &bar : bars) {
+        ++number;
+        if (bar.index < 0 || bar.index >= count)
+            continue; // a damaged row without a lane of this record
+        const QRect rect = GraphGeometry::laneBar(scale, m_frame.metrics, bar.start, bar.end, bar.index);
+        drawBar(rect.intersected(lanes), number);
+    }
+}
+
+void GraphPainter::drawBar(const QRect &rect, int number)
+{
+    if (rect.isEmpty())
+        return;
+    m_painter.fillRect(rect, m_palette.line.brush());
+    const QString text = generic("#") + QString::number(number);
+    // A number that is cut off could be taken for another one.
+    if (m_painter.fontMetrics().horizontalAdvance(text) > rect.width())
+        return;
+    m_painter.setPen(m_palette.barText);
+    m_painter.drawText(rect, Qt::AlignCenter, text);
+}
+
+void GraphPainter::drawCurve(const ScriptCurve &curve)
+{
+    m_painter.setPen(m_palette.line);
+    for (qsizetype i = 1; i < curve.line.size(); ++i)
+        m_painter.drawLine(curve.line[i - 1], curve.line[i]);
+    fillBelow(curve.line, m_palette.line.color());
+}
+
+void GraphPainter::drawMarkers(const ScriptCurve &curve)
+{
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(m_palette.marker);
+    for (const ScriptCurve::Marker &marker : curve.markers)
+        m_painter.drawEllipse(marker.position, MarkerRadius, MarkerRadius);
+    m_painter.setPen(m_palette.text);
+    m_painter.setBrush(Qt::NoBrush);
+    for (const ScriptCurve::Marker &marker : curve.markers)
+        drawMarkerLabel(marker);
+}
+
+void GraphPainter::drawMarkerLabel(const ScriptCurve::Marker &marker)
+{
+    const int rowHeight = m_frame.metrics.rowHeight;
+    const QString speed =
+        QString::number(marker.point.speed * m_unit.perSpeed, 'f', m_unit.decimals) + ' '_L1 + m_unit.text;
+    const QString time = QString::number(marker.point.timeSeconds, 'f', TimeDecimals) + ' '_L1 + generic("s");
+
+    const QFontMetrics font = m_painter.fontMetrics();
+    const int width = std::max(font.horizontalAdvance(speed), font.horizontalAdvance(time));
+    const int rightEdge = m_frame.pictureSize.width() - m_frame.plot.left();
+    int x = marker.position.x() + LabelGap;
+    if (x + width > rightEdge)
+        x = marker.position.x() - LabelGap - width; // whole on the other side rather than cut off
+
+    // The second line stays above the numbers of the time axis.
+    const int lowest = m_frame.scale.height - LabelGap;
+    const int timeY = std::min(marker.position.y() + rowHeight * 3 / 2 - 2, lowest);
+    const int speedY = std::min(marker.position.y() + rowHeight / 2, lowest - rowHeight + 2);
+    m_painter.drawText(x, speedY, speed);
+    m_painter.drawText(x, timeY, time);
+}
+
+void GraphPainter::drawHint(const QString &text, const QFont &font)
+{
+    const QFont small = m_painter.font();
+    m_painter.setFont(font);
+    m_painter.setPen(m_palette.axis);
+    m_painter.drawText(area(), Qt::AlignCenter, text);
+    m_painter.setFont(small);
+}
+
+void GraphPainter::drawUnits()
+{
+    constexpr int left = 2;
+    m_painter.setPen(m_palette.text);
+    m_painter.drawText(area().translated(left, left - m_frame.metrics.rowHeight / 2),
+                       Qt::AlignLeft | Qt::AlignTop, m_unit.text);
+    m_painter.drawText(area().translated(-1, 0), Qt::AlignRight | Qt::AlignBottom, generic("seconds"));
+}
+
+void GraphPainter::drawCursor(double seconds)
+{
+    if (seconds < 0)
+        return;
+    const int x = m_frame.scale.xAt(seconds);
+    m_painter.setPen(m_palette.cursor);
+    m_painter.drawLine(x, 0, x, m_frame.scale.height);
+}
+
+/// Column by column, since one polygon under a long restless line is more than the painter can fill.
+void GraphPainter::fillBelow(const QList<QPoint> &line, const QColor &color)
+{
+    const int base = m_frame.scale.height;
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setOpacity(FillOpacity);
+    m_painter.setBrush(color);
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        const QPoint from = line[i - 1];
+        const QPoint to = line[i];
+        if (from.x() == to.x())
+            continue;
+        if (from.y() == to.y() && from.y() < base) {
+            m_painter.fillRect(QRect(from, QPoint(to.x() - 1, base - 1)), color);
+            continue;
+        }
+        const std::array corners{from, to, QPoint(to.x(), base), QPoint(from.x(), base)};
+        m_painter.drawConvexPolygon(corners.data(), static_cast<int>(corners.size()));
+    }
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.setOpacity(1);
+}

@@ -1,0 +1,200 @@
+#include "scripts/widgets/graphgeometry.h"
+#include "scripts/widgets/scriptcurve.h"
+
+#include <QMap>
+#include <QTest>
+
+#include <cmath>
+
+using namespace GraphGeometry;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Metrics Font{.labelWidth = 40, .rowHeight = 16};
+
+/// How many, the first and the last, each with its place.
+QString summary(const QList<Tick> &ticks)
+{
+    if (ticks.isEmpty())
+        return {};
+    const auto text = [](const Tick &tick) { return u"%1@%2"_s.arg(tick.label).arg(tick.position); };
+    return u"%1 %2 %3"_s.arg(ticks.size()).arg(text(ticks.first()), text(ticks.last()));
+}
+
+using Range = std::pair<int, int>; // of y
+
+void widen(QMap<int, Range> &columns, QPoint point)
+{
+    const Range old = columns.value(point.x(), {point.y(), point.y()});
+    columns[point.x()] = {std::min(old.first, point.y()), std::max(old.second, point.y())};
+}
+
+} // namespace
+
+class TestGraphGeometry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void spanIsBounded()
+    {
+        QCOMPARE(boundedSpan(3), 10.0);
+        QCOMPARE(boundedSpan(12.5), 12.5);
+        QCOMPARE(boundedSpan(86400), 1000.0);
+        QCOMPARE(boundedSpan(std::nan("")), 10.0);
+    }
+
+    void plotLeavesRoomForNumbersAndLanes()
+    {
+        const QMargins margins(16, 8, 8, 8);
+        QCOMPARE(plotRectangle({900, 600}, margins, 20, Font, 4), QRect(56, 20, 816, 484));
+        QCOMPARE(plotRectangle({900, 600}, margins, 20, Font, 0), QRect(56, 20, 816, 564));
+        QVERIFY(plotRectangle({60, 30}, margins, 20, Font, 7).isEmpty());
+    }
+
+    void pixelsAreCutNotRounded()
+    {
+        const Scale scale{.width = 800, .height = 300, .spanSeconds = 10};
+        QCOMPARE(scale.xAt(9.99), 799);
+        QCOMPARE(scale.yAt(0.05), 299);
+        QCOMPARE(scale.yAt(30), 0);
+        // Points of a damaged file.
+        QCOMPARE(scale.xAt(std::nan("")), 0);
+        QVERIFY(scale.xAt(1e300) > 1000 * scale.width);
+        QVERIFY(scale.yAt(1e300) < -1000 * scale.height);
+    }
+
+    void timeTicks_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<double>("span");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("just fits") << 800 << 10.0 << u"20 0.5@40 10.0@800"_s;
+        QTest::newRow("one pixel less") << 799 << 10.0 << u"10 1@79 10@799"_s;
+        QTest::newRow("longest") << 800 << 1000.0 << u"16 60@50 960@800"_s;
+        QTest::newRow("span is no multiple") << 800 << 25.0 << u"12 2@66 24@800"_s;
+        QTest::newRow("no room") << 30 << 10.0 << QString();
+    }
+
+    void timeTicks()
+    {
+        QFETCH(int, width);
+        QFETCH(double, span);
+        const auto ticks = GraphGeometry::timeTicks({width, 300, span}, Font);
+        QTEST(summary(ticks), "expected");
+        if (width == 800 && span == 10)
+            QCOMPARE(ticks.first().labelRect, QRect(21, 302, 40, 16));
+    }
+
+    void speedTicks_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<double>("perSpeed");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("rpm") << 300 << 1.0 << u"12 2.5@275 30.0@0"_s;
+        QTest::newRow("rpm, high") << 480 << 1.0 << u"30 1@464 30@0"_s;
+        QTest::newRow("rps") << 300 << 1.0 / 60 << u"10 0.05@270 0.50@0"_s;
+        QTest::newRow("top between two ticks") << 300 << 0.36 << u"10 1@272 10@22"_s;
+    }
+
+    void speedTicks()
+    {
+        QFETCH(int, height);
+        QFETCH(double, perSpeed);
+        const auto ticks = GraphGeometry::speedTicks({800, height, 10}, Font, perSpeed);
+        QTEST(summary(ticks), "expected");
+        if (perSpeed == 1 && height == 300)
+            QCOMPARE(ticks.first().labelRect, QRect(-40, 267, 37, 16));
+    }
+
+    void columnKeepsFirstHighestLowestLast()
+    {
+        const QList<QPoint> points{{0, 5}, {0, 9}, {0, 7}, {0, 1}, {0, 6}, {1, 4}, {3, 2}, {3, 2}, {3, 2}};
+        QCOMPARE(columnExtremes(points), (QList<qsizetype>{0, 1, 3, 4, 5, 6, 8}));
+        QVERIFY(columnExtremes({}).isEmpty());
+    }
+
+    void traceOfADayCostsWhatThePlotShows()
+    {
+        const Scale scale{.width = 1000, .height = 200, .spanSeconds = 1000};
+        QList<double> speeds;
+        for (qint64 i = 0; i < 432'000; ++i)
+            speeds.append(static_cast<double>(i * 7919 % 4000) / 100); // beyond the top at times
+        QMap<int, Range> expected;
+        constexpr int samplesPerPixel = 5;
+        for (int i = 0; i < 5000; ++i) {
+            const int y = std::max(0, static_cast<int>(200 - speeds[i] * (200.0 / 30)));
+            widen(expected, {i / samplesPerPixel, y});
+        }
+
+        const QList<QPoint> line = traceLine(speeds, scale);
+        QVERIFY(line.size() <= 4 * (scale.width + 2));
+        QVERIFY(line.last().x() > scale.width); // so that the last segment crosses the edge
+        QMap<int, Range> drawn;
+        for (const QPoint point : line)
+            widen(drawn, point);
+        for (int x = 0; x < scale.width; ++x)
+            QCOMPARE(drawn[x], expected[x]);
+    }
+
+    void barsStandInTheirLanes()
+    {
+        const Scale scale{.width = 800, .height = 300, .spanSeconds = 10};
+        QCOMPARE(laneBottom(scale, Font, 0), 336);
+        QCOMPARE(laneBar(scale, Font, 1000, 2510, 2), QRect(80, 357, 120, 18));
+    }
+
+    void curveIsLevelToBothEdges_data()
+    {
+        using Line = QList<QPoint>;
+        QTest::addColumn<ScriptPoints>("points");
+        QTest::addColumn<Line>("line");
+        const auto row = [](const char *name, const ScriptPoints &points, const Line &line) {
+            QTest::newRow(name) << points << line;
+        };
+        row("inside", {{2, 10}, {4, 20}}, {{0, 200}, {20, 200}, {40, 100}, {100, 100}});
+        row("edge to edge", {{10, 0}, {0, 30}}, {{0, 0}, {100, 300}});
+        row("beyond", {{0, 0}, {20, 30}}, {{0, 300}, {200, 0}});
+        row("of one time the last", {{0, 1}, {10, 30}, {0, 10}}, {{0, 200}, {100, 0}});
+        row("none", {}, {});
+    }
+
+    void curveIsLevelToBothEdges()
+    {
+        QFETCH(ScriptPoints, points);
+        QTEST(ScriptCurve::of(points, {100, 300, 10}).line, "line");
+    }
+
+    void millionPointsAreFewMarkers()
+    {
+        ScriptPoints points;
+        for (int i = 0; i < 1'000'000; ++i)
+            points.append({i * 1e-5, static_cast<double>(i % 30)});
+        QVERIFY(ScriptCurve::of(points, {100, 300, 10}).markers.size() <= 4 * 101);
+    }
+
+    void firstMarkerInReachIsHit()
+    {
+        const Scale scale{.width = 100, .height = 300, .spanSeconds = 10};
+        const ScriptPoints points{{5, 15}, {1, 10}, {1.2, 10}};
+        QCOMPARE(markerAt(points, scale, {10, 200}, 4), 1);
+        QCOMPARE(markerAt(points, scale, {16, 204}, 4), 2);
+        QCOMPARE(markerAt(points, scale, {54, 146}, 4), 0);
+        QCOMPARE(markerAt(points, scale, {55, 150}, 4), -1);
+        QCOMPARE(markerAt(points, scale, {50, 155}, 4), -1);
+    }
+
+    void placesAreBoundedAndRounded()
+    {
+        const Scale scale{.width = 100, .height = 300, .spanSeconds = 10};
+        QCOMPARE(pointAt(scale, {25, 75}, 10), (ScriptPoint{2.5, 22.5}));
+        QCOMPARE(pointAt(scale, {-5, -1}, 10), (ScriptPoint{0, 30}));
+        QCOMPARE(pointAt(scale, {120, 310}, 10), (ScriptPoint{10, 0}));
+        QCOMPARE(snapped({2.5, 22.5}, Snap::WholeNumbers), (ScriptPoint{3, 23}));
+        QCOMPARE(snapped({2.25, 0.04}, Snap::Tenths), (ScriptPoint{2.3, 0}));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestGraphGeometry)
+#include "tst_graphgeometry.moc"

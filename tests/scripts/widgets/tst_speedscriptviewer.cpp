@@ -1,0 +1,259 @@
+#include "scripts/speedscript.h"
+#include "scripts/widgets/speedscriptviewer.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+/// Edits scripts of 10 s, unless told otherwise, with the mouse and reads what the file then holds.
+class TestSpeedScriptViewer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_script = std::make_unique<SpeedScript>(m_folder->filePath(u"script.xml"_s));
+    }
+
+    void cleanup() { m_viewer.reset(); }
+
+    void newScriptGetsAThirdPoint()
+    {
+        show({});
+        mouse(QEvent::MouseButtonPress, at(5, 0));
+        QCOMPARE(m_viewer->cursor().shape(), Qt::ClosedHandCursor);
+        mouse(QEvent::MouseMove, at(5, 15));
+        QVERIFY(stored().isEmpty()); // written at the release only
+        mouse(QEvent::MouseButtonRelease, at(5, 15));
+        QCOMPARE(m_viewer->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(stored(), (ScriptPoints{{0, 0}, {5, 15}, {10, 0}}));
+    }
+
+    void droppedWithoutMovingStaysUnrounded()
+    {
+        show({{0, 0}, {10, 30}});
+        drag(at(3.3, 9.9), at(3.3, 9.9), false);
+        QCOMPARE(stored().size(), 3);
+        const double time = stored().at(1).timeSeconds;
+        QVERIFY(time != std::round(time));
+        QVERIFY(std::abs(time - 3.3) <= 10.0 / m_viewer->plotRectangle().width());
+    }
+
+    void draggedMarkerIsRounded_data()
+    {
+        QTest::addColumn<bool>("shift");
+        QTest::addColumn<QPointF>("to");
+        QTest::addColumn<ScriptPoint>("expected");
+        QTest::newRow("whole") << false << QPointF(6.23, 20.31) << ScriptPoint{6, 20};
+        QTest::newRow("tenths") << true << QPointF(6.23, 20.26) << ScriptPoint{6.2, 20.3};
+        QTest::newRow("beyond the corner") << false << QPointF(12, 35) << ScriptPoint{10, 30};
+        QTest::newRow("before the start") << true << QPointF(-1, -2) << ScriptPoint{0, 0};
+    }
+
+    void draggedMarkerIsRounded()
+    {
+        QFETCH(bool, shift);
+        QFETCH(QPointF, to);
+        show({{5, 15}});
+        mouse(QEvent::MouseButtonPress, at(5, 15) + QPoint(3, -2));
+        mouse(QEvent::MouseMove, at(2, 2));
+        const QPoint end = at(to.x(), to.y());
+        mouse(QEvent::MouseMove, end, shift ? Qt::ShiftModifier : Qt::NoModifier);
+        mouse(QEvent::MouseButtonRelease, end);
+        QCOMPARE(stored().size(), 1);
+        QTEST(stored().first(), "expected");
+    }
+
+    void ofEqualTimesTheLaterInTheListStays_data()
+    {
+        QTest::addColumn<ScriptPoint>("from");
+        QTest::addColumn<double>("to");
+        QTest::addColumn<double>("speed");
+        QTest::newRow("first onto second") << ScriptPoint{2, 10} << 8.0 << 20.0;
+        QTest::newRow("second onto first") << ScriptPoint{8, 20} << 2.0 << 6.0;
+    }
+
+    void ofEqualTimesTheLaterInTheListStays()
+    {
+        QFETCH(ScriptPoint, from);
+        QFETCH(double, to);
+        QFETCH(double, speed);
+        show({{2, 10}, {8, 20}});
+        drag(at(from.timeSeconds, from.speed), at(to, 6));
+        QCOMPARE(stored(), (ScriptPoints{{to, speed}}));
+    }
+
+    void markerMayPassAnother()
+    {
+        show({{2, 10}, {8, 20}});
+        mouse(QEvent::MouseButtonPress, at(2, 10));
+        mouse(QEvent::MouseMove, at(9, 5));
+        m_viewer->grab(); // the drag outlives a repaint
+        mouse(QEvent::MouseMove, at(9, 6));
+        mouse(QEvent::MouseButtonRelease, at(9, 6));
+        QCOMPARE(stored(), (ScriptPoints{{8, 20}, {9, 6}}));
+    }
+
+    void altRemovesUntilNoneIsLeft()
+    {
+        show({{2, 10}, {8, 20}});
+        mouse(QEvent::MouseButtonPress, at(8, 20), Qt::AltModifier);
+        mouse(QEvent::MouseButtonRelease, at(8, 20), Qt::AltModifier);
+        QCOMPARE(stored(), (ScriptPoints{{2, 10}}));
+        m_viewer->grab();
+        mouse(QEvent::MouseButtonPress, at(2, 10), Qt::AltModifier);
+        QVERIFY(m_script->getPoints().isEmpty());
+        m_viewer->grab();
+        drag(at(5, 0), at(5, 0), false); // the level line is back
+        QCOMPARE(stored().size(), 3);
+    }
+
+    void otherPressesDoNothing_data()
+    {
+        QTest::addColumn<bool>("editable");
+        QTest::addColumn<ScriptPoint>("place");
+        QTest::newRow("beside the line") << true << ScriptPoint{5, 20};
+        QTest::newRow("outside the plot") << true << ScriptPoint{-0.5, 10};
+        QTest::newRow("marker, read only") << false << ScriptPoint{8, 10};
+        QTest::newRow("line, read only") << false << ScriptPoint{5, 10};
+    }
+
+    void otherPressesDoNothing()
+    {
+        QFETCH(bool, editable);
+        QFETCH(ScriptPoint, place);
+        show({{2, 10}, {8, 10}}, editable);
+        drag(at(place.timeSeconds, place.speed), at(5, 29));
+        QVERIFY(stored().isEmpty());
+        QCOMPARE(m_script->pointList(), (ScriptPoints{{2, 10}, {8, 10}}));
+    }
+
+    void longScriptIsShownInPart()
+    {
+        m_script->setDurationSeconds(10000);
+        show({{100, 15}});
+        drag(at(1, 15), at(10, 15)); // a hundred times as far
+        QCOMPARE(stored(), (ScriptPoints{{1000, 15}}));
+    }
+
+    void dragEndsWithItsScript()
+    {
+        show({{2, 10}});
+        mouse(QEvent::MouseButtonPress, at(2, 10));
+        SpeedScript other(m_folder->filePath(u"other.xml"_s));
+        other.setPointList({{5, 5}});
+        m_viewer->setScript(&other);
+        mouse(QEvent::MouseMove, at(3, 3));
+        mouse(QEvent::MouseButtonRelease, at(3, 3));
+        QCOMPARE(other.pointList(), (ScriptPoints{{5, 5}}));
+        QVERIFY(stored().isEmpty());
+    }
+
+    void traceOfADayIsDrawnWhole()
+    {
+        SpeedScriptViewer viewer(nullptr, false, nullptr);
+        viewer.resize(1200, 220);
+        QList<double> speeds;
+        for (qint64 i = 0; i < 432'000; ++i)
+            speeds.append(15 + static_cast<double>(i * 7919 % 1500) / 100);
+        viewer.setTimeSpan(86'400);
+        viewer.setSpeedTrace(speeds);
+        QImage picture = viewer.grab().toImage();
+        const QRect plot = viewer.plotRectangle();
+        const auto isGreen = [&](int x, int y) {
+            const QColor color = picture.pixelColor(x, y);
+            return color.green() > color.red();
+        };
+        for (int x = plot.left() + 1; x < plot.right(); ++x) {
+            QVERIFY2(isGreen(x, plot.bottom() - 2), qPrintable(QString::number(x)));
+            QVERIFY2(isGreen(x, plot.center().y() + 2), qPrintable(QString::number(x)));
+        }
+        viewer.clearRecord();
+        picture = viewer.grab().toImage();
+        QVERIFY(!isGreen(plot.center().x(), plot.center().y() + 2));
+    }
+
+    void infoButtonKeepsTheCornerAndExplains()
+    {
+        show({});
+        QSignalSpy resized(m_viewer.get(), &SpeedScriptViewer::resized);
+        m_viewer->resize(700, 300);
+        QCOMPARE(resized.size(), 1);
+        auto *button = m_viewer->findChild<QPushButton *>();
+        QCOMPARE(button->geometry(), QRect(700 - 32, 8, 24, 24));
+        QVERIFY(!button->icon().isNull());
+
+        QString text;
+        QTimer::singleShot(0, this, [&text] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            text = dialog->findChild<QLabel *>()->text();
+            dialog->reject();
+        });
+        button->click();
+        QCOMPARE(text.count(u"<br/>"_s), 2);
+        QVERIFY(text.contains(u"'ALT'"_s) && text.endsWith(u"dragging markers"_s));
+    }
+
+private:
+    void show(const ScriptPoints &points, bool editable = true)
+    {
+        m_script->setPointList(points);
+        m_viewer = std::make_unique<SpeedScriptViewer>(m_script.get(), editable, nullptr);
+        m_viewer->resize(760, 420);
+        m_viewer->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_viewer.get()));
+        m_viewer->grab();
+    }
+
+    /// The place in a plot of 10 s.
+    QPoint at(double seconds, double speed) const
+    {
+        const QRect plot = m_viewer->plotRectangle();
+        return {static_cast<int>(plot.left() + seconds * plot.width() / 10),
+                static_cast<int>(plot.top() + plot.height() - speed * plot.height() / 30)};
+    }
+
+    void mouse(QEvent::Type type, QPoint position, Qt::KeyboardModifiers modifiers = {})
+    {
+        const QPoint global = m_viewer->mapToGlobal(position);
+        QCursor::setPos(global);
+        QMouseEvent event(type, position, global, Qt::LeftButton, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(m_viewer.get(), &event);
+    }
+
+    void drag(QPoint from, QPoint to, bool moved = true)
+    {
+        mouse(QEvent::MouseButtonPress, from);
+        if (moved)
+            mouse(QEvent::MouseMove, to);
+        mouse(QEvent::MouseButtonRelease, to);
+    }
+
+    /// What is on disk.
+    ScriptPoints stored() const
+    {
+        SpeedScript copy(m_script->getFilepath());
+        copy.reload();
+        copy.parsePoints();
+        return copy.pointList();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<SpeedScript> m_script;
+    std::unique_ptr<SpeedScriptViewer> m_viewer;
+};
+
+QTEST_MAIN(TestSpeedScriptViewer)
+#include "tst_speedscriptviewer.moc"
