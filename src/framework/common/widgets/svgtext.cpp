@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 MaxFileBytes = 4 * 1024 * 1024;
+constexpr qint64 MaxFileBytes = 4LL * 1024 * 1024;
 constexpr int MaxElements = 20'000;
 // The renderer walks the tree by recursion.
 constexpr int MaxDepth = 100;

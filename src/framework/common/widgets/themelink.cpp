@@ -40,14 +40,14 @@ void ThemeLink::connectSettings()
 {
     const QMetaObject *meta = parent()->metaObject();
     if (const int signal = meta->indexOfSignal("propertyChanged(QString)"); signal >= 0) {
-        const int slot = metaObject()->indexOfSlot("onPropertyChanged(QString)");
-        connect(parent(), meta->method(signal), this, metaObject()->method(slot));
+        const int slot = staticMetaObject.indexOfSlot("onPropertyChanged(QString)");
+        connect(parent(), meta->method(signal), this, staticMetaObject.method(slot));
         return;
     }
     const QMetaProperty property = meta->property(meta->indexOfProperty(m_property.toLatin1().constData()));
     if (property.hasNotifySignal())
         connect(parent(), property.notifySignal(), this,
-                metaObject()->method(metaObject()->indexOfSlot("apply()")));
+                staticMetaObject.method(staticMetaObject.indexOfSlot("apply()")));
 }
 
 void ThemeLink::onPropertyChanged(const QString &name)

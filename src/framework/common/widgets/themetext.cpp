@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Values that name other variables can multiply; a style sheet of ours has a few ten thousand characters.
-constexpr qsizetype MaxSheetLength = 4 * 1024 * 1024;
+constexpr qsizetype MaxSheetLength = 4LL * 1024 * 1024;
 
 void substitute(QString &text, const QString &name, const QString &value)
 {
