@@ -1,7 +1,7 @@
+#include "framework/common/terminationsignals.h"
 #include "simulator/commandline.h"
 #include "simulator/report.h"
 #include "simulator/simulatedinstrument.h"
-#include "simulator/terminationsignals.h"
 
 #include <QCoreApplication>
 

@@ -5,6 +5,7 @@
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -29,12 +30,14 @@ BOOL WINAPI handleConsoleEvent(DWORD)
 
 // A handler may do little more than write a byte: the event loop reads it at the other end.
 std::array<int, 2> thePipe{-1, -1};
-constexpr std::array theSignals{SIGINT, SIGTERM};
+constexpr std::array theSignals{SIGINT, SIGTERM, SIGHUP};
 
 void handleSignal(int)
 {
+    const int errorBefore = errno;
     const char byte = 1;
     [[maybe_unused]] const ssize_t written = write(thePipe[1], &byte, sizeof(byte));
+    errno = errorBefore;
 }
 
 #endif
@@ -76,6 +79,7 @@ TerminationSignals::TerminationSignals(QObject *parent)
     sigemptyset(&action.sa_mask);
     for (const int signal : theSignals)
         sigaction(signal, &action, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 TerminationSignals::~TerminationSignals()
