@@ -1,0 +1,20 @@
+#include "cli/commandline.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    // The folders on disk carry the name of the application, whichever of its programs runs.
+    QCoreApplication::setApplicationName(u"Spinbar"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(SPINBAR_VERSION));
+    // Warnings only, unless the environment asks for more.
+    QLoggingCategory::setFilterRules(u"spinbar.*.info=false\nspinbar.*.debug=false"_s);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    CommandContext context{{}, out, err};
+    return static_cast<int>(runCommandLine(QCoreApplication::arguments(), context));
+}

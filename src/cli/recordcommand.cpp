@@ -1,0 +1,70 @@
+#include "cli/command.h"
+#include "cli/recordsession.h"
+#include "core/sensorcalibration.h"
+#include "core/spinbarmodel.h"
+#include "core/spinbarsettings.h"
+#include "device/speedconversion.h"
+#include "framework/common/terminationsignals.h"
+#include "scripts/scriptlibrary.h"
+#include "scripts/speedscript.h"
+
+#include <QCommandLineParser>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Above the last digits that a conversion from and to the operator's unit may cost.
+constexpr double SpeedTolerance = 1e-9;
+
+ExitCode record(CommandContext &context, const RecordOptions &options)
+{
+    std::unique_ptr<SpeedScript> script;
+    if (!options.scriptTitle.isEmpty()) {
+        script = ScriptLibrary(context.scriptsFolder()).load(options.scriptTitle);
+        if (!script)
+            return failed(context, u"'%1': no such script"_s.arg(options.scriptTitle));
+    }
+    SpinbarModel model(nullptr, context.dataFolder);
+    if (!QFileInfo(model.recordsFolder()).isDir())
+        return failed(context, u"'%1': the folder cannot be created"_s.arg(model.recordsFolder()));
+    const auto rodent = options.rodent.value_or(model.settings()->getRodentMode());
+    if (options.motorSpeed(rodent) > SpeedConversion::MaxMotorSpeed + SpeedTolerance)
+        return wrongUsage(context, u"--speed is above what the drum can do"_s);
+    model.device()->setRodentMode(rodent);
+    if (!SensorCalibration::apply(*model.settings(), *model.device()))
+        context.err << "The sensors are not calibrated, default thresholds are in force" << Qt::endl;
+
+    RecordReport report(context, options.json);
+    RecordSession session(model, options, context, report);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::requested, &session, &RecordSession::interrupt);
+    ExitCode result = ExitCode::Failed;
+    QEventLoop loop;
+    QObject::connect(&session, &RecordSession::finished, &loop, [&](ExitCode code) {
+        result = code;
+        loop.quit();
+    });
+    session.start(script.get());
+    loop.exec();
+    return result;
+}
+
+} // namespace
+
+ExitCode runRecord(CommandContext &context, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Waits for the instrument and records an experiment."_s);
+    RecordOptions::declare(parser);
+    if (const auto ended = parseArguments(parser, context, u"record"_s, arguments))
+        return *ended;
+    if (!parser.positionalArguments().isEmpty())
+        return wrongUsage(context, u"'record' takes options only"_s);
+    QString error;
+    const std::optional<RecordOptions> options = RecordOptions::read(parser, error);
+    return options ? record(context, *options) : wrongUsage(context, error);
+}

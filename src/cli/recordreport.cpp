@@ -1,0 +1,87 @@
+#include "cli/recordreport.h"
+
+#include "cli/command.h"
+
+#include <QJsonDocument>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double MillisecondsPerSecond = 1000.0;
+
+} // namespace
+
+RecordReport::RecordReport(CommandContext &context, bool json)
+    : m_context(context)
+    , m_json(json)
+{}
+
+void RecordReport::connected(const QString &port)
+{
+    event(u"connected"_s, {{u"port"_s, port}}, u"Connected to "_s + port);
+}
+
+void RecordReport::serial(const QString &value)
+{
+    if (std::exchange(m_serial, value) == value)
+        return;
+    event(u"serial"_s, {{u"value"_s, value}}, u"Serial number "_s + value);
+}
+
+void RecordReport::version(const QString &value)
+{
+    if (std::exchange(m_version, value) == value)
+        return;
+    event(u"version"_s, {{u"value"_s, value}}, u"Firmware version "_s + value);
+}
+
+void RecordReport::recording(const QString &path)
+{
+    event(u"recording"_s, {{u"path"_s, path}}, u"Recording to "_s + path);
+}
+
+void RecordReport::found(int lane)
+{
+    event(u"found"_s, {{u"lane"_s, lane}}, u"Lane %1: on the drum"_s.arg(lane));
+}
+
+void RecordReport::fall(qint64 start, qint64 end, double rotations, int index, bool rat)
+{
+    const QString seconds =
+        QString::number(double(end) / MillisecondsPerSecond - double(start) / MillisecondsPerSecond);
+    event(u"fall"_s,
+          {{u"start"_s, start},
+           {u"end"_s, end},
+           {u"rotations"_s, rotations},
+           {u"index"_s, index},
+           {u"rat"_s, rat}},
+          u"Lane %1: off the drum after %2 s"_s.arg(index + 1).arg(seconds));
+}
+
+void RecordReport::disconnected()
+{
+    event(u"disconnected"_s, {}, u"The link to the instrument was lost"_s);
+}
+
+void RecordReport::stopped(const QString &path)
+{
+    event(u"stopped"_s, {{u"path"_s, path}}, u"Stopped"_s);
+    if (!m_json)
+        m_context.out << path << Qt::endl;
+}
+
+void RecordReport::event(const QString &name, QJsonObject fields, const QString &words)
+{
+    if (!m_json) {
+        m_context.err << words << Qt::endl;
+        return;
+    }
+    // Written by hand up to the fields, so that every line begins with what happened.
+    QByteArray line = "{\"event\":\"" + name.toUtf8() + '"';
+    const QByteArray rest = QJsonDocument(fields).toJson(QJsonDocument::Compact);
+    line += fields.isEmpty() ? QByteArray("}") : ',' + rest.sliced(1);
+    m_context.out << QString::fromUtf8(line) << Qt::endl;
+}

@@ -1,0 +1,69 @@
+#include "cli/command.h"
+#include "cli/tableoutput.h"
+#include "scripts/scriptexpansion.h"
+#include "scripts/speedscript.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double MillisecondsPerSecond = 1000.0;
+
+QJsonObject toJson(const SpeedScript &script)
+{
+    QJsonArray points;
+    for (const ScriptPoint &point : script.pointList())
+        points.append(QJsonArray{point.timeSeconds, point.speed});
+    QJsonArray table;
+    for (const double speed : script.table())
+        table.append(speed);
+    return {{u"duration"_s, script.getDurationSeconds()},
+            {u"infinite"_s, script.getInfinite()},
+            {u"loops"_s, script.getLoops()},
+            {u"points"_s, points},
+            {u"table"_s, table}};
+}
+
+Table toTable(const SpeedScript &script)
+{
+    Table rows{{u"Time, s"_s, u"Speed"_s}};
+    const QList<double> speeds = script.table();
+    for (qsizetype i = 0; i < speeds.size(); ++i)
+        rows.append({double((i + 1) * ScriptStepMs) / MillisecondsPerSecond, speeds.at(i)});
+    return rows;
+}
+
+} // namespace
+
+ExitCode runScript(CommandContext &context, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Shows a speed script and the speeds that it expands to."_s);
+    const QCommandLineOption json(u"json"_s, u"Prints JSON."_s);
+    parser.addOption(json);
+    parser.addPositionalArgument(u"FILE"_s, u"A speed script file."_s);
+    if (const auto ended = parseArguments(parser, context, u"script"_s, arguments))
+        return *ended;
+    if (parser.positionalArguments().size() != 1)
+        return wrongUsage(context, u"'script' takes one file"_s);
+    const QString path = parser.positionalArguments().constFirst();
+    const QFileInfo file(path);
+    if (!file.isFile() || !file.isReadable())
+        return failed(context, u"'%1': no such file, or it cannot be read"_s.arg(path));
+    SpeedScript script(path);
+    script.setAutoSave(false);
+    script.reload();
+    script.parsePoints();
+    if (parser.isSet(json)) {
+        printJson(context.out, toJson(script));
+        return ExitCode::Done;
+    }
+    context.out << "Duration " << script.getDurationSeconds() << " s, "
+                << (script.getInfinite() ? u"endless"_s : u"%1 loops"_s.arg(script.getLoops())) << "\n\n";
+    printTable(context.out, toTable(script));
+    return ExitCode::Done;
+}

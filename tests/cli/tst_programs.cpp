@@ -1,0 +1,145 @@
+#include "core/spinbarrecord.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int StartTimeoutMs = 20'000;
+constexpr int LinkLostCode = 4;
+
+/// A program whose standard output is awaited.
+class Program : public QProcess
+{
+public:
+    Program(const char *pathVariable, const QStringList &arguments, const QProcessEnvironment &environment)
+    {
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        setProcessEnvironment(environment);
+        start(qEnvironmentVariable(pathVariable), arguments);
+    }
+
+    ~Program() override
+    {
+        kill();
+        waitForFinished();
+    }
+
+    bool waitForText(const QByteArray &text)
+    {
+        while (!output.contains(text)) {
+            if (!waitForReadyRead(StartTimeoutMs))
+                return false;
+            output += readAllStandardOutput();
+        }
+        return true;
+    }
+
+    void signal(int number) { ::kill(pid_t(processId()), number); }
+
+    QByteArray output;
+};
+
+} // namespace
+
+class TestPrograms : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_environment = QProcessEnvironment::systemEnvironment();
+        m_environment.insert(u"SPINBAR_SERIAL_PORTS"_s, port());
+    }
+
+    void interruptEndsTheRecordingInTheOrdinaryWay()
+    {
+        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+        QVERIFY(simulator.waitForText("ready " + port().toUtf8() + '\n'));
+        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        QVERIFY(recorder.waitForText(R"("event":"fall")"));
+        recorder.signal(SIGINT);
+        QVERIFY(recorder.waitForText(R"("event":"stopped")"));
+        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QCOMPARE(recorder.exitCode(), 0);
+        SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
+        QVERIFY(record.load());
+        QVERIFY(!record.rawItems().isEmpty());
+        QVERIFY(record.firstDeviceTime() > 0);
+
+        simulator.signal(SIGTERM);
+        QVERIFY(simulator.waitForFinished(StartTimeoutMs));
+        QCOMPARE(simulator.exitCode(), 0);
+        QVERIFY(!QFileInfo(port()).isSymLink());
+    }
+
+    void killedRecorderLosesAtMostTheLineInFlight()
+    {
+        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"200"_s}, m_environment);
+        QVERIFY(simulator.waitForText("ready "));
+        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        QVERIFY(recorder.waitForText(R"("event":"fall")"));
+        recorder.signal(SIGKILL);
+        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+
+        SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
+        QVERIFY(record.load());
+        QVERIFY(!record.rawItems().isEmpty());
+        QFile log(recordedFolder() + "status.log"_L1);
+        QVERIFY(log.open(QFile::ReadOnly));
+        const QByteArray bytes = log.readAll();
+        QVERIFY(bytes.count('\n') >= 3);
+        // Whole lines up to the end of the last fall, each one period behind the one before.
+        QVERIFY(record.durationSeconds() * 1000 >= double(record.normalizedItems().constLast().end));
+        const auto &samples = record.counters().samples();
+        for (std::size_t i = 1; i < samples.size(); ++i)
+            QCOMPARE(samples[i].timeMs - samples[i - 1].timeMs, qint64(SpinbarRecord::StatusPeriodMs));
+    }
+
+    void endOfTheInstrumentEndsTheRecording()
+    {
+        auto simulator = std::make_unique<Program>(
+            "SPINBAR_SIMULATOR", QStringList{u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+        QVERIFY(simulator->waitForText("ready "));
+        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        QVERIFY(recorder.waitForText(R"("event":"found")"));
+        simulator.reset();
+        QVERIFY(recorder.waitForText(R"("event":"stopped")"));
+        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QCOMPARE(recorder.exitCode(), LinkLostCode);
+        SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
+        QVERIFY(record.load());
+    }
+
+private:
+    QString port() const { return m_folder->filePath(u"instrument"_s); }
+
+    QStringList recordArguments() const
+    {
+        return {u"--data"_s,  m_folder->path(), u"record"_s, u"--json"_s,
+                u"--speed"_s, u"30"_s,          u"--unit"_s, u"rpm"_s};
+    }
+
+    QString recordedFolder() const
+    {
+        const QDir records(m_folder->filePath(u"Records"_s));
+        return records.filePath(records.entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0)) + '/'_L1;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QProcessEnvironment m_environment;
+};
+
+QTEST_GUILESS_MAIN(TestPrograms)
+#include "tst_programs.moc"
