@@ -3,8 +3,6 @@
 #include "core/boundedmath.h"
 #include "core/recordslog.h"
 
-#include "framework/common/texthelper.h"
-
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -66,14 +64,15 @@ void take(const QJsonObject &object, QLatin1StringView key, qint64 &value)
 /// Empty, with a line in the log, if the file can't be read or is no experiment.
 QJsonObject readExperimentObject(const QString &path)
 {
+    const QFileInfo info(path);
     QFile file(path);
     // A pipe or a device under this name could keep the reader forever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
         qCWarning(recordsLog) << "Cannot read" << path;
         return {};
     }
-    if (file.size() > MaxFileBytes) {
-        qCWarning(recordsLog) << "Too large for an experiment:" << path << file.size() << "bytes";
+    if (info.size() > MaxFileBytes) {
+        qCWarning(recordsLog) << "Too large for an experiment:" << path << info.size() << "bytes";
         return {};
     }
     QJsonParseError error;
@@ -92,8 +91,13 @@ QString ExperimentFile::pathIn(const QString &folder)
 
 QString ExperimentFile::nameOf(const QString &folder)
 {
-    const QStringList parts = TextHelper::splitAndTrim(folder, u"/"_s);
-    return parts.isEmpty() ? QString() : parts.last();
+    // Lists ask for thousands of names, so only the part that counts is copied.
+    QStringView name;
+    for (const QStringView part : QStringView(folder).tokenize(u'/')) {
+        if (const QStringView trimmed = part.trimmed(); !trimmed.isEmpty())
+            name = trimmed;
+    }
+    return name.toString();
 }
 
 bool ExperimentFile::read(const QString &path, ExperimentData &data)

@@ -1,6 +1,7 @@
 #include "core/experimentlibrary.h"
 
 #include "core/experimentfile.h"
+#include "core/experimentfolders.h"
 #include "core/recordslog.h"
 
 #include "framework/common/fileutilities.h"
@@ -38,10 +39,7 @@ ExperimentLibrary::ExperimentLibrary(const QString &recordsFolder)
 
 QStringList ExperimentLibrary::folders() const
 {
-    QStringList found = FileUtilities::getFilesOfType(m_recordsFolder, u"json"_s, true, true);
-    for (QString &path : found)
-        path.truncate(path.lastIndexOf('/'_L1) + 1);
-    return found;
+    return experimentFolders(m_recordsFolder);
 }
 
 QList<ExperimentEntry> ExperimentLibrary::list() const
