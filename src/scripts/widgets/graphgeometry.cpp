@@ -159,6 +159,19 @@ QList<QPoint> GraphGeometry::traceLine(const QList<double> &speeds, const Scale 
     return line;
 }
 
+QList<double> GraphGeometry::columnTops(const QList<QPoint> &line, const Scale &scale)
+{
+    QList<double> tops(scale.width, scale.height);
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        const QPoint from = line[i - 1];
+        const QPoint to = line[i];
+        const double slope = static_cast<double>(to.y() - from.y()) / (to.x() - from.x());
+        for (int x = std::max(from.x(), 0); x < std::min(to.x(), scale.width); ++x)
+            tops[x] = std::clamp(from.y() + (x + 0.5 - from.x()) * slope, 0.0, 1.0 * scale.height);
+    }
+    return tops;
+}
+
 int GraphGeometry::laneBottom(const Scale &scale, Metrics metrics, int lane)
 {
     return (lane + 1) * LaneHeight + scale.height + metrics.rowHeight;

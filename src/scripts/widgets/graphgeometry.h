@@ -71,6 +71,10 @@ QList<qsizetype> columnExtremes(const QList<QPoint> &points);
 /// so that the cost depends on the plot's width only.
 QList<QPoint> traceLine(const QList<double> &speeds, const Scale &scale);
 
+/// What is to be filled below \a line: for each pixel column of the plot the mean y of the line on its way to
+/// the next column, and the plot's height where there is no line.
+QList<double> columnTops(const QList<QPoint> &line, const Scale &scale);
+
 /// The y of the grid line under the row of lane \a lane, counted from 0.
 int laneBottom(const Scale &scale, Metrics metrics, int lane);
 /// The bar of a stay in that row; times in milliseconds.

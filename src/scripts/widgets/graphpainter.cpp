@@ -4,11 +4,11 @@
 #include "framework/common/widgets/stylehelper.h"
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QPainter>
-#include <QPolygon>
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +18,16 @@ constexpr double FillOpacity = 0.2;
 constexpr int TickLength = 2;
 constexpr int LabelGap = 4; // between a marker's centre and its label
 constexpr int TimeDecimals = 1;
+const QString WidestNumber = u"10000.0000 "_s;
 
 QString generic(const char *text)
 {
     return QCoreApplication::translate("Generic", text);
+}
+
+QString timeUnit()
+{
+    return generic("seconds");
 }
 
 QColor themeColor(const QString &name, const QPen &fallback)
@@ -169,10 +175,13 @@ void GraphPainter::drawMarkers(const ScriptCurve &curve)
         m_painter.drawEllipse(marker.position, MarkerRadius, MarkerRadius);
     m_painter.setPen(m_palette.text);
     m_painter.setBrush(Qt::NoBrush);
+    const QFontMetrics font = m_painter.fontMetrics();
+    m_labelRoom = font.horizontalAdvance(WidestNumber + m_unit.text) + font.horizontalAdvance(timeUnit());
     for (const ScriptCurve::Marker &marker : curve.markers)
         drawMarkerLabel(marker);
 }
 
+/// Beside the marker and lower, but off the picture's edge and off what is written along the time axis.
 void GraphPainter::drawMarkerLabel(const ScriptCurve::Marker &marker)
 {
     const int rowHeight = m_frame.metrics.rowHeight;
@@ -180,15 +189,16 @@ void GraphPainter::drawMarkerLabel(const ScriptCurve::Marker &marker)
         QString::number(marker.point.speed * m_unit.perSpeed, 'f', m_unit.decimals) + ' '_L1 + m_unit.text;
     const QString time = QString::number(marker.point.timeSeconds, 'f', TimeDecimals) + ' '_L1 + generic("s");
 
-    const QFontMetrics font = m_painter.fontMetrics();
-    const int width = std::max(font.horizontalAdvance(speed), font.horizontalAdvance(time));
-    const int rightEdge = m_frame.pictureSize.width() - m_frame.plot.left();
     int x = marker.position.x() + LabelGap;
-    if (x + width > rightEdge)
-        x = marker.position.x() - LabelGap - width; // whole on the other side rather than cut off
-
-    // The second line stays above the numbers of the time axis.
-    const int lowest = m_frame.scale.height - LabelGap;
+    int lowest = m_frame.scale.height - LabelGap;
+    if (x + m_labelRoom > m_frame.scale.width) {
+        const QFontMetrics font = m_painter.fontMetrics();
+        const int width = std::max(font.horizontalAdvance(speed), font.horizontalAdvance(time));
+        if (x + width > m_frame.pictureSize.width() - m_frame.plot.left())
+            x = marker.position.x() - LabelGap - width;
+        if (x + width > m_frame.scale.width - font.horizontalAdvance(timeUnit()))
+            lowest -= rowHeight;
+    }
     const int timeY = std::min(marker.position.y() + rowHeight * 3 / 2 - 2, lowest);
     const int speedY = std::min(marker.position.y() + rowHeight / 2, lowest - rowHeight + 2);
     m_painter.drawText(x, speedY, speed);
@@ -210,7 +220,7 @@ void GraphPainter::drawUnits()
     m_painter.setPen(m_palette.text);
     m_painter.drawText(area().translated(left, left - m_frame.metrics.rowHeight / 2),
                        Qt::AlignLeft | Qt::AlignTop, m_unit.text);
-    m_painter.drawText(area().translated(-1, 0), Qt::AlignRight | Qt::AlignBottom, generic("seconds"));
+    m_painter.drawText(area().translated(-1, 0), Qt::AlignRight | Qt::AlignBottom, timeUnit());
 }
 
 void GraphPainter::drawCursor(double seconds)
@@ -222,25 +232,29 @@ void GraphPainter::drawCursor(double seconds)
     m_painter.drawLine(x, 0, x, m_frame.scale.height);
 }
 
-/// Column by column, since one polygon under a long restless line is more than the painter can fill.
+/// Column by column, since one polygon under a long restless line is more than the painter can fill, and many
+/// small ones cost far more than a picture.
 void GraphPainter::fillBelow(const QList<QPoint> &line, const QColor &color)
 {
-    const int base = m_frame.scale.height;
-    m_painter.setPen(Qt::NoPen);
-    m_painter.setOpacity(FillOpacity);
-    m_painter.setBrush(color);
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        const QPoint from = line[i - 1];
-        const QPoint to = line[i];
-        if (from.x() == to.x())
-            continue;
-        if (from.y() == to.y() && from.y() < base) {
-            m_painter.fillRect(QRect(from, QPoint(to.x() - 1, base - 1)), color);
-            continue;
-        }
-        const std::array corners{from, to, QPoint(to.x(), base), QPoint(from.x(), base)};
-        m_painter.drawConvexPolygon(corners.data(), static_cast<int>(corners.size()));
+    const QList<double> tops = GraphGeometry::columnTops(line, m_frame.scale);
+    const auto shade = [&color](double coverage) {
+        QColor translucent = color;
+        translucent.setAlphaF(static_cast<float>(FillOpacity * coverage));
+        return qPremultiply(translucent.rgba());
+    };
+    const QRgb full = shade(1);
+    QList<int> edgeRows;
+    QList<QRgb> edgeShades;
+    for (const double top : tops) {
+        edgeRows.append(static_cast<int>(top));
+        edgeShades.append(shade(std::floor(top) + 1 - top));
     }
-    m_painter.setBrush(Qt::NoBrush);
-    m_painter.setOpacity(1);
+
+    QImage layer(m_frame.scale.width, m_frame.scale.height, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < layer.height(); ++y) {
+        auto *pixels = reinterpret_cast<QRgb *>(layer.scanLine(y));
+        for (int x = 0; x < layer.width(); ++x)
+            pixels[x] = y > edgeRows[x] ? full : y == edgeRows[x] ? edgeShades[x] : 0;
+    }
+    m_painter.drawImage(0, 0, layer);
 }

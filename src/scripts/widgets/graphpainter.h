@@ -81,4 +81,5 @@ private:
     const GraphFrame &m_frame;
     const GraphPalette &m_palette;
     const GraphUnit &m_unit;
+    int m_labelRoom = 0; // left of this from the right edge, a marker's label has all the room it needs
 };

@@ -1,21 +1,28 @@
 #include "scripts/widgets/scriptcurve.h"
 
-#include <QMap>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
+#include <utility>
 
 ScriptPoints mergedByTime(const ScriptPoints &points)
 {
-    QMap<double, double> speedByTime;
-    for (const ScriptPoint &point : points)
-        speedByTime[point.timeSeconds] = point.speed;
-
+    const auto isAscending = [](const ScriptPoint &a, const ScriptPoint &b) {
+        return a.timeSeconds < b.timeSeconds;
+    };
+    if (std::ranges::adjacent_find(points, std::not_fn(isAscending)) == points.end())
+        return points;
+    ScriptPoints sorted = points;
+    std::ranges::stable_sort(sorted, {}, &ScriptPoint::timeSeconds);
     ScriptPoints merged;
-    merged.reserve(speedByTime.size());
-    for (const auto &[time, speed] : speedByTime.asKeyValueRange())
-        merged.append({time, speed});
+    merged.reserve(sorted.size());
+    for (const ScriptPoint &point : std::as_const(sorted)) {
+        if (!merged.isEmpty() && merged.last().timeSeconds == point.timeSeconds)
+            merged.last() = point;
+        else
+            merged.append(point);
+    }
     return merged;
 }
 

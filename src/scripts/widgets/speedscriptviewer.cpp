@@ -198,7 +198,7 @@ void SpeedScriptViewer::preparePicture()
 {
     const QSize pixels = size() * devicePixelRatio();
     if (m_picture.size() != pixels)
-        m_picture = QImage(pixels, QImage::Format_RGBA8888);
+        m_picture = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     m_picture.setDevicePixelRatio(devicePixelRatio());
     m_picture.fill(Qt::transparent);
 

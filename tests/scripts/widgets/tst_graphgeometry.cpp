@@ -138,6 +138,15 @@ private slots:
             QCOMPARE(drawn[x], expected[x]);
     }
 
+    void columnsAreFilledToTheMiddleOfTheLine()
+    {
+        const Scale scale{.width = 6, .height = 30, .spanSeconds = 10};
+        // A restless column counts with where it leaves and where the next one is entered.
+        const QList<QPoint> line{{1, 20}, {1, 2}, {1, 10}, {3, 14}, {4, 40}};
+        QCOMPARE(columnTops(line, scale), (QList<double>{30, 11, 13, 27, 30, 30}));
+        QCOMPARE(columnTops({{-10'000'000, -5}, {10'000'000, -5}}, scale), QList<double>(6, 0));
+    }
+
     void barsStandInTheirLanes()
     {
         const Scale scale{.width = 800, .height = 300, .spanSeconds = 10};
