@@ -74,6 +74,7 @@ GraphPainter::GraphPainter(QPainter &painter, const GraphFrame &frame, const Gra
     , m_frame(frame)
     , m_palette(palette)
     , m_unit(unit)
+    , m_seconds(generic("s"))
 {
     m_painter.translate(frame.plot.topLeft());
 }
@@ -187,7 +188,7 @@ void GraphPainter::drawMarkerLabel(const ScriptCurve::Marker &marker)
     const int rowHeight = m_frame.metrics.rowHeight;
     const QString speed =
         QString::number(marker.point.speed * m_unit.perSpeed, 'f', m_unit.decimals) + ' '_L1 + m_unit.text;
-    const QString time = QString::number(marker.point.timeSeconds, 'f', TimeDecimals) + ' '_L1 + generic("s");
+    const QString time = QString::number(marker.point.timeSeconds, 'f', TimeDecimals) + ' '_L1 + m_seconds;
 
     int x = marker.position.x() + LabelGap;
     int lowest = m_frame.scale.height - LabelGap;

@@ -81,5 +81,6 @@ private:
     const GraphFrame &m_frame;
     const GraphPalette &m_palette;
     const GraphUnit &m_unit;
+    QString m_seconds;
     int m_labelRoom = 0; // left of this from the right edge, a marker's label has all the room it needs
 };

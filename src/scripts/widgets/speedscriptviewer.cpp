@@ -3,6 +3,7 @@
 #include "framework/common/apphelper.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
+#include "framework/settings/widgets/propertylistcontrol.h"
 #include "scripts/speedscript.h"
 
 #include <QCoreApplication>
@@ -104,9 +105,23 @@ void SpeedScriptViewer::setScript(SpeedScript *script)
     m_dragging = false;
     if (script) {
         m_scriptConnections << connect(script, &AbstractSettings::propertyChanged, this,
-                                       &SpeedScriptViewer::placePlot);
+                                       &SpeedScriptViewer::placePlot)
+                            << connect(script, &QObject::destroyed, this, [this] { setScript(nullptr); });
     }
+    if (m_editable)
+        rebuildForm();
     placePlot();
+}
+
+void SpeedScriptViewer::rebuildForm()
+{
+    delete m_form;
+    m_form = nullptr;
+    if (!m_script)
+        return;
+    m_form = new PropertyListControl(m_script, {}, PropertyListControl::ViewMode_AllNoScroll, this);
+    m_layout->insertWidget(0, m_form, 0, Qt::AlignTop);
+    m_infoButton->raise();
 }
 
 void SpeedScriptViewer::setDimension(CurlySpinbar::OutputSpeedDimension dimension,
@@ -153,7 +168,7 @@ void SpeedScriptViewer::clearRecord()
 
 void SpeedScriptViewer::placePlot()
 {
-    m_topOffset = Margins.top() + RoomAbovePlot;
+    m_topOffset = Margins.top() + (m_form ? m_form->sizeHint().height() + RoomBelowForm : RoomAbovePlot);
     describe();
     update();
 }
@@ -247,6 +262,9 @@ void SpeedScriptViewer::paintScript(GraphPainter &graph)
 
 bool SpeedScriptViewer::event(QEvent *event)
 {
+    // Rows of the form come and go after the change that they depend on.
+    if (event->type() == QEvent::LayoutRequest)
+        placePlot();
     if (m_editable && m_script && m_frame.scale.isValid()) {
         if (event->type() == QEvent::MouseButtonPress)
             press(static_cast<QMouseEvent *>(event)->modifiers());

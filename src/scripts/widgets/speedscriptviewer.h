@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class PropertyListControl;
 class SpeedScript;
 class QPushButton;
 class QVBoxLayout;
@@ -57,6 +58,7 @@ protected:
 private:
     void createInfoButton();
     void showInfo();
+    void rebuildForm();
     void placePlot();
     void describe();
 
@@ -75,6 +77,7 @@ private:
 
     const bool m_editable;
     QPointer<SpeedScript> m_script;
+    PropertyListControl *m_form = nullptr; // owned as a child; rebuilt with each script
     QVBoxLayout *m_layout = nullptr;
     QPushButton *m_infoButton = nullptr;
     ConnectionHelper m_scriptConnections;

@@ -1,3 +1,4 @@
+#include "framework/settings/widgets/propertylistcontrol.h"
 #include "scripts/speedscript.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
@@ -161,6 +162,24 @@ private slots:
         QVERIFY(stored().isEmpty());
     }
 
+    void plotKeepsBelowTheForm()
+    {
+        show({});
+        auto *form = m_viewer->findChild<PropertyListControl *>();
+        const auto isBelow = [&] {
+            m_viewer->grab();
+            return m_viewer->plotRectangle().top() == 8 + form->sizeHint().height() + 32;
+        };
+        QVERIFY(isBelow());
+        const int top = m_viewer->plotRectangle().top();
+        m_script->setInfinite(false); // brings the row of the loops
+        QVERIFY(QTest::qWaitFor([&] { return isBelow() && m_viewer->plotRectangle().top() > top; }));
+        m_viewer->setScript(nullptr);
+        m_viewer->grab();
+        QVERIFY(!m_viewer->findChild<PropertyListControl *>());
+        QCOMPARE(m_viewer->plotRectangle().top(), 20);
+    }
+
     void traceOfADayIsDrawnWhole()
     {
         SpeedScriptViewer viewer(nullptr, false, nullptr);
@@ -191,7 +210,7 @@ private slots:
         QSignalSpy resized(m_viewer.get(), &SpeedScriptViewer::resized);
         m_viewer->resize(700, 300);
         QCOMPARE(resized.size(), 1);
-        auto *button = m_viewer->findChild<QPushButton *>();
+        auto *button = m_viewer->findChild<QPushButton *>({}, Qt::FindDirectChildrenOnly);
         QCOMPARE(button->geometry(), QRect(700 - 32, 8, 24, 24));
         QVERIFY(!button->icon().isNull());
 
@@ -211,7 +230,7 @@ private:
     {
         m_script->setPointList(points);
         m_viewer = std::make_unique<SpeedScriptViewer>(m_script.get(), editable, nullptr);
-        m_viewer->resize(760, 420);
+        m_viewer->resize(760, 620);
         m_viewer->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_viewer.get()));
         m_viewer->grab();

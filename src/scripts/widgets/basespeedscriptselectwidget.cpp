@@ -1,0 +1,168 @@
+#include "scripts/widgets/basespeedscriptselectwidget.h"
+
+#include "core/spinbarmodel.h"
+#include "core/spinbarsettings.h"
+#include "framework/common/apphelper.h"
+#include "framework/common/widgets/stylehelper.h"
+#include "scripts/speedscript.h"
+#include "scripts/widgets/speedscriptviewer.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Margin = 8;
+constexpr int Gap = 10;
+constexpr int BottomSpacing = 2;
+constexpr int Stretch = 100;
+constexpr int ToolButtonSize = 32;
+constexpr int ToolIconSize = 20;
+constexpr int ShortestTitle = 8; // characters; a longer title must not widen the page
+
+} // namespace
+
+BaseSpeedScriptSelectWidget::BaseSpeedScriptSelectWidget(SpinbarModel &model, bool editable, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_library(model.scriptsFolder())
+    , m_editable(editable)
+{}
+
+void BaseSpeedScriptSelectWidget::buildInterface()
+{
+    m_graph = new SpeedScriptViewer(nullptr, m_editable, nullptr);
+    m_combo = new QComboBox;
+    m_combo->setView(new QListView); // so that the style sheet reaches the items
+    m_combo->setPlaceholderText(QCoreApplication::translate("BaseSpeedScriptSelectWidget", "Not selected"));
+    m_combo->setAccessibleName(QCoreApplication::translate("Generic", "Script"));
+    m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_combo->setMinimumContentsLength(ShortestTitle);
+    connect(m_combo, &QComboBox::currentIndexChanged, this, &BaseSpeedScriptSelectWidget::selectScript);
+
+    setContentsMargins({});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(createTopRow());
+    layout->addWidget(m_graph, Stretch);
+    if (const QList<QWidget *> widgets = bottomRowWidgets(); !widgets.isEmpty()) {
+        auto *row = new QHBoxLayout;
+        row->setContentsMargins(Margin, 0, Margin, Margin);
+        row->setSpacing(BottomSpacing);
+        for (QWidget *widget : widgets) {
+            if (widget)
+                row->addWidget(widget);
+        }
+        layout->addLayout(row);
+    }
+    reloadList({});
+}
+
+QWidget *BaseSpeedScriptSelectWidget::createTopRow()
+{
+    auto *row = new QWidget;
+    if (m_editable)
+        StyleHelper::Instance()->setStyledBackground(row, u"--n-idle-bg"_s, QColor(0xF6F6F6));
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    if (m_editable)
+        layout->addWidget(new QLabel(QCoreApplication::translate("Generic", "Script") + ':'_L1));
+    layout->addWidget(m_combo, Stretch);
+    for (QWidget *widget : topRowWidgets()) {
+        if (widget)
+            layout->addWidget(widget);
+        else
+            layout->addSpacing(Gap);
+    }
+    return row;
+}
+
+QPushButton *BaseSpeedScriptSelectWidget::makeToolButton(const QString &text, const QString &icon)
+{
+    auto *button = new QPushButton;
+    button->setFixedSize(ToolButtonSize, ToolButtonSize);
+    button->setIconSize({ToolIconSize, ToolIconSize});
+    StyleHelper::SetButtonIcon(button, AppHelper::findInResources(icon), u"#FFF"_s);
+    button->setToolTip(text);
+    button->setAccessibleName(text);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setStyleSheet(u"padding: 0"_s);
+    return button;
+}
+
+void BaseSpeedScriptSelectWidget::reloadList(const QString &title)
+{
+    unloadScript();
+    SpinbarSettings &settings = *m_model.settings();
+    if (!title.isEmpty())
+        settings.setLastSpeedScript(title);
+
+    const QStringList titles = m_library.titles();
+    {
+        const QSignalBlocker blocker(m_combo);
+        m_combo->clear();
+        m_combo->addItems(titles);
+    }
+    const int index = ScriptLibrary::indexToSelect(titles, settings.getLastSpeedScript());
+    // By way of none, so that the script is read anew even if the index stays.
+    m_combo->setCurrentIndex(-1);
+    if (index >= 0)
+        m_combo->setCurrentIndex(index);
+    else
+        scriptChanged();
+    m_combo->setEnabled(!titles.isEmpty());
+    updateDependentWidgets();
+}
+
+void BaseSpeedScriptSelectWidget::unloadScript()
+{
+    if (m_script) {
+        m_script->setAutoSave(false);
+        m_script->deleteLater();
+        m_script = nullptr;
+    }
+    m_graph->setScript(nullptr);
+}
+
+void BaseSpeedScriptSelectWidget::selectScript()
+{
+    unloadScript();
+    if (m_combo->currentIndex() >= 0) {
+        m_script = m_library.load(title()).release();
+        if (m_script) {
+            m_script->setParent(this);
+            m_script->setAutoSave(m_editable);
+            m_model.settings()->setLastSpeedScript(title());
+        }
+    }
+    m_graph->setScript(m_script);
+    updateDependentWidgets();
+    scriptChanged();
+}
+
+QString BaseSpeedScriptSelectWidget::title() const
+{
+    return m_combo->currentText();
+}
+
+void BaseSpeedScriptSelectWidget::updateDependentWidgets()
+{
+    for (QWidget *widget : std::as_const(m_dependentWidgets))
+        widget->setEnabled(m_script);
+}
+
+void BaseSpeedScriptSelectWidget::setDimension(CurlySpinbar::OutputSpeedDimension dimension,
+                                               CurlySpinbarDevice::RodentMode rodentMode)
+{
+    m_graph->setDimension(dimension, rodentMode);
+}

@@ -1,0 +1,235 @@
+#include "core/spinbarmodel.h"
+#include "core/spinbarsettings.h"
+#include "device/testline.h"
+#include "scripts/speedscript.h"
+#include "scripts/widgets/speedscripteditor.h"
+#include "scripts/widgets/speedscriptselectandrunwidget.h"
+#include "scripts/widgets/speedscriptviewer.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton *button(const QWidget &widget, const QString &name)
+{
+    const QList<QPushButton *> buttons = widget.findChildren<QPushButton *>();
+    const auto found = std::ranges::find(buttons, name, &QWidget::accessibleName);
+    return found == buttons.end() ? nullptr : *found;
+}
+
+/// Lets each step act on the dialog that is open when its turn comes.
+void answer(QObject *context, QList<std::function<void(QWidget *)>> steps)
+{
+    if (steps.isEmpty())
+        return;
+    QTimer::singleShot(0, context, [context, steps]() mutable {
+        const auto step = steps.takeFirst();
+        answer(context, steps);
+        step(QApplication::activeModalWidget());
+    });
+}
+
+} // namespace
+
+/// The widgets on a real model, whose instrument is a line of the test.
+class TestScriptSelection : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_line = std::make_unique<TestLine>(u"COM4"_s);
+        m_line->answers = {{"{whois}", "{iamspinbar}"}, {"{sn}", "{sn=B42403101}"}};
+        m_ports = std::make_unique<TestPorts>(QList<PortInfo>{m_line->info()});
+        m_model = std::make_unique<SpinbarModel>(nullptr, m_folder->path() + u'/');
+    }
+
+    void cleanup()
+    {
+        m_model.reset();
+        m_ports.reset();
+    }
+
+    void emptyFolderOffersNothing()
+    {
+        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+        const auto *combo = runner.findChild<QComboBox *>();
+        QVERIFY(!combo->isEnabled());
+        QCOMPARE(combo->placeholderText(), u"Not selected"_s);
+        QVERIFY(!button(runner, u"Run script"_s)->isEnabled());
+        QVERIFY(!button(runner, u"Stop script"_s)->isEnabled());
+    }
+
+    void rememberedTitleIsSelected_data()
+    {
+        QTest::addColumn<QString>("remembered");
+        QTest::addColumn<QString>("selected");
+        QTest::newRow("other case") << u"BETA"_s << u"beta"_s;
+        QTest::newRow("gone") << u"delta"_s << u"alpha"_s;
+        QTest::newRow("none") << QString() << u"alpha"_s;
+    }
+
+    void rememberedTitleIsSelected()
+    {
+        QFETCH(QString, remembered);
+        addScript(u"alpha"_s);
+        addScript(u"beta"_s);
+        m_model->settings()->setLastSpeedScript(remembered);
+        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+        QTEST(runner.findChild<QComboBox *>()->currentText(), "selected");
+        QTEST(m_model->settings()->getLastSpeedScript(), "selected");
+        QVERIFY(button(runner, u"Run script"_s)->isEnabled());
+    }
+
+    void vanishedFileLoadsNothing()
+    {
+        addScript(u"alpha"_s);
+        addScript(u"beta"_s);
+        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+        QVERIFY(QFile::remove(m_model->scriptsFolder() + u"beta.xml"_s));
+        runner.findChild<QComboBox *>()->setCurrentIndex(1);
+        QVERIFY(!button(runner, u"Run script"_s)->isEnabled());
+        QCOMPARE(m_model->settings()->getLastSpeedScript(), u"alpha"_s);
+    }
+
+    void runReachesTheInstrumentAndStops()
+    {
+        addScript(u"alpha"_s);
+        QVERIFY(m_line->waitFor("{irmode=r}"));
+        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+        runner.show();
+        QPushButton *run = button(runner, u"Run script"_s);
+        QPushButton *stop = button(runner, u"Stop script"_s);
+        QVERIFY(run->isVisible() && !stop->isVisible());
+        m_line->take();
+        run->click();
+        QVERIFY(!run->isVisible() && stop->isVisible() && stop->isChecked());
+        QVERIFY(!labelWith(runner, u"Cycle 1/3"_s).isEmpty());
+        // 1.2 rad/s, the second entry of the table.
+        QVERIFY(m_line->waitFor("{rotate=0.191}"));
+        QVERIFY(!m_line->received.contains("{rotate=0.095}"));
+
+        stop->click();
+        QVERIFY(m_line->waitFor("{rotate=0.000}"));
+        QVERIFY(run->isVisible() && labelWith(runner, u"Cycle"_s).isEmpty());
+        run->click();
+        QVERIFY(stop->isChecked());
+    }
+
+    void selectionReloadAndDestructionStopTheRun()
+    {
+        addScript(u"alpha"_s);
+        addScript(u"beta"_s);
+        auto runner = std::make_unique<SpeedScriptSelectAndRunWidget>(*m_model, nullptr);
+        runner->show();
+        const QPushButton *run = button(*runner, u"Run script"_s);
+        runner->setRunning(true);
+        runner->findChild<QComboBox *>()->setCurrentIndex(1);
+        QVERIFY(run->isVisible());
+        runner->setRunning(true);
+        for (const auto *title : {"alpha", "beta"})
+            QVERIFY(QFile::remove(m_model->scriptsFolder() + QLatin1String(title) + u".xml"_s));
+        runner->reloadList({});
+        QVERIFY(run->isVisible() && !run->isEnabled());
+
+        QVERIFY(m_line->waitFor("{irmode=r}"));
+        m_line->take();
+        runner.reset();
+        QVERIFY(m_line->waitFor("{rotate=0.000}"));
+    }
+
+    void editorChangesWhatTheRunnerThenPlays()
+    {
+        addScript(u"alpha"_s);
+        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+        runner.show();
+        runner.setRunning(true);
+        answer(this, {[&](QWidget *dialog) {
+                   QVERIFY(!button(runner, u"Stop script"_s)->isVisible());
+                   auto *script = dialog->findChild<SpeedScript *>();
+                   script->setLoops(7); // saved by itself
+                   qobject_cast<QDialog *>(dialog)->reject();
+               }});
+        button(runner, u"Script editor"_s)->click();
+        runner.setRunning(true);
+        QVERIFY(!labelWith(runner, u"Cycle 1/7"_s).isEmpty());
+    }
+
+    void refusedCloneGoesOnAsRenaming()
+    {
+        addScript(u"alpha"_s);
+        addScript(u"beta"_s);
+        SpeedScriptEditor editor(*m_model, nullptr);
+        QStringList seen;
+        const auto give = [&seen](const QString &text) {
+            return [&seen, text](QWidget *widget) {
+                auto *dialog = qobject_cast<QInputDialog *>(widget);
+                seen += dialog->labelText();
+                dialog->setTextValue(text);
+                dialog->accept();
+            };
+        };
+        answer(this, {give(u" beta "_s),
+                      [&seen](QWidget *widget) {
+                          auto *box = qobject_cast<QMessageBox *>(widget);
+                          seen += box->text();
+                          box->accept();
+                      },
+                      give(u"gamma"_s)});
+        editor.findChild<QComboBox *>()->setCurrentText(u"alpha"_s);
+        button(editor, u"Clone script"_s)->click();
+        QCOMPARE(seen, QStringList({u"Enter new cloned script title"_s,
+                                    u"Script with this title already exists"_s, u"Change script title"_s}));
+        // The answer refused is what was to be renamed, and no file of that name gave way.
+        QCOMPARE(ScriptLibrary(m_model->scriptsFolder()).titles(), QStringList({u"alpha"_s, u"gamma"_s}));
+
+        answer(this, {give(u"delta"_s)});
+        button(editor, u"New script"_s)->click();
+        QCOMPARE(editor.findChild<QComboBox *>()->currentText(), u"delta"_s);
+        answer(this, {[](QWidget *box) { box->findChild<QPushButton *>()->click(); }});
+        button(editor, u"Remove script"_s)->click();
+        QCOMPARE(editor.findChild<QComboBox *>()->count(), 2);
+    }
+
+private:
+    void addScript(const QString &title)
+    {
+        SpeedScript script(ScriptLibrary(m_model->scriptsFolder()).filePath(title));
+        script.setInfinite(false);
+        script.setLoops(3);
+        script.setPointList({{0, 0}, {10, 30}});
+        script.storePoints();
+    }
+
+    static QString labelWith(const QWidget &widget, const QString &text)
+    {
+        for (const QLabel *label : widget.findChildren<QLabel *>()) {
+            if (label->text().startsWith(text))
+                return label->text();
+        }
+        return {};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestLine> m_line;
+    std::unique_ptr<TestPorts> m_ports;
+    std::unique_ptr<SpinbarModel> m_model;
+};
+
+QTEST_MAIN(TestScriptSelection)
+#include "tst_scriptselection.moc"
