@@ -80,7 +80,8 @@ AbstractMetaDescription *BasePropertyView::description() const
 void BasePropertyView::substituteEditor(QWidget *editor)
 {
     nullifyEditor();
-    m_layout->insertWidget(0, editor);
+    if (editor)
+        m_layout->insertWidget(0, editor);
 }
 
 void BasePropertyView::setEditor(QWidget *editor, int editorStretch)

@@ -31,7 +31,7 @@ EnumStringListPropertyView::EnumStringListPropertyView(AbstractMetaDescription *
 
 bool EnumStringListPropertyView::isText() const
 {
-    return description()->type == "QString"_L1;
+    return description() && description()->type == "QString"_L1;
 }
 
 void EnumStringListPropertyView::metaValueChanged(const QVariant &value)

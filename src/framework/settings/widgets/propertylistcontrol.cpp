@@ -88,6 +88,7 @@ void PropertyListControl::placeInnerInScrollArea()
     auto *area = new QScrollArea;
     area->setMinimumSize(LeastScrollArea);
     area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus); // it follows the focus of its editors
     UIHelper::ChangeBackground(area, Qt::transparent);
     area->setStyleSheet(u"QScrollArea { background: transparent; border: 0; } "
                         "QScrollArea > QWidget > QWidget { background: transparent; }  "

@@ -76,6 +76,8 @@ void SpecialPropertyView::pick()
     if (!description())
         return;
     const QString path = description()->getValue().toString();
+    // The form may be gone by the time that the dialog is closed.
+    const QPointer<SpecialPropertyView> self(this);
     QString picked;
     if (description()->pickOption == "PickFolder"_L1) {
         const QString start = !path.isEmpty() && QDir(path).exists() ? path : QString();
@@ -86,7 +88,7 @@ void SpecialPropertyView::pick()
         picked = QFileDialog::getOpenFileName(nullptr, tr("Open"), start,
                                               filterFor(description()->pickExtensions));
     }
-    if (!picked.isEmpty())
+    if (self && !picked.isEmpty())
         write(picked);
 }
 

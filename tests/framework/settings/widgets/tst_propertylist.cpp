@@ -169,7 +169,7 @@ private slots:
 
     void everyControlHasAName()
     {
-        PropertyListControl form(m_settings.get(), {}, AllNoScroll);
+        PropertyListControl form(m_settings.get(), {}, All);
         form.show();
         for (const QWidget *control : form.findChildren<QWidget *>()) {
             const QWidget *owner = control->parentWidget();
