@@ -33,7 +33,8 @@ bool read(const QString &path, ExperimentData &data);
 /// The whole file. The title goes in whenever \a name is not empty.
 QByteArray toJson(const ExperimentData &data, const QString &name);
 
-/// Rewrites the file in place with one write call. False, with a line in the log, on failure.
+/// Rewrites the file in place with one write call, never leaving it short on the way. False, with a line in
+/// the log, on failure.
 bool write(const QString &path, const QByteArray &json);
 
 } // namespace ExperimentFile

@@ -2,6 +2,7 @@
 
 #include "core/boundedmath.h"
 #include "core/experimentstatistics.h"
+#include "core/recordslog.h"
 #include "core/statusline.h"
 
 #include "framework/common/fileutilities.h"
@@ -9,6 +10,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -95,8 +97,13 @@ void SpinbarRecord::loadStatus(bool force)
 {
     if (m_statusLoaded && !force)
         return;
-    if (!StatusLog::read(m_folder + "status.log"_L1, m_counters))
+    const QString path = m_folder + "status.log"_L1;
+    if (!StatusLog::read(path, m_counters)) {
+        // Every reader tries again, which need not fill the log.
+        if (!std::exchange(m_missingLogTold, true))
+            qCWarning(recordsLog) << "Cannot read" << path;
         return;
+    }
     m_statusLoaded = true;
     const auto &samples = m_counters.samples();
     if (samples.size() < MinSamplesForSpeeds)

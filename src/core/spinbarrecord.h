@@ -87,4 +87,5 @@ private:
     QList<double> m_speeds;
     qint64 m_lastDeviceTime = 0;
     bool m_statusLoaded = false;
+    bool m_missingLogTold = false;
 };

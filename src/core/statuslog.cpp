@@ -33,10 +33,8 @@ bool StatusLog::read(const QString &path, StatusCounters &counters)
 {
     QFile file(path);
     // A pipe or a device under this name could keep the reader forever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        qCWarning(recordsLog) << "Cannot read" << path;
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return false;
-    }
     counters.clear();
     counters.reserve(std::size_t(std::min(file.size() / BytesPerLineEstimate, MaxLinesEstimate)));
     QByteArray buffer(MaxHeldBytes + ChunkBytes, Qt::Uninitialized);

@@ -174,6 +174,13 @@ private slots:
         QVERIFY(record.save());
         QVERIFY(!folder.experiment().contains("x"_L1));
         QVERIFY(folder.experiment()["items"_L1].toArray().isEmpty());
+        record.setComment(QString(500, u'c'));
+        QVERIFY(record.save());
+        record.setComment({});
+        QVERIFY(record.save());
+        // Nothing of the longer text is left.
+        QVERIFY(folder.read("experiment.json").endsWith("}\n}\n"));
+        QCOMPARE(folder.experiment().size(), 5);
     }
 
     void logLines_data()
