@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -244,17 +245,17 @@ void GraphPainter::fillBelow(const QList<QPoint> &line, const QColor &color)
         return qPremultiply(translucent.rgba());
     };
     const QRgb full = shade(1);
-    QList<int> edgeRows;
-    QList<QRgb> edgeShades;
+    std::vector<int> edgeRows;
+    std::vector<QRgb> edgeShades;
     for (const double top : tops) {
-        edgeRows.append(static_cast<int>(top));
-        edgeShades.append(shade(std::floor(top) + 1 - top));
+        edgeRows.push_back(static_cast<int>(top));
+        edgeShades.push_back(shade(std::floor(top) + 1 - top));
     }
 
     QImage layer(m_frame.scale.width, m_frame.scale.height, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < layer.height(); ++y) {
         auto *pixels = reinterpret_cast<QRgb *>(layer.scanLine(y));
-        for (int x = 0; x < layer.width(); ++x)
+        for (std::size_t x = 0; x < edgeRows.size(); ++x)
             pixels[x] = y > edgeRows[x] ? full : y == edgeRows[x] ? edgeShades[x] : 0;
     }
     m_painter.drawImage(0, 0, layer);

@@ -68,6 +68,8 @@ void SpeedScriptEditor::createOverlay()
     m_rodentModeForm =
         new PropertyListControl(settings, u"RodentMode"_s, PropertyListControl::ViewMode_Property, m_overlay);
     dimensionForm->showDefaultButtons(false);
+    dimensionForm->setAutoFocus(false);
+    m_rodentModeForm->setAutoFocus(false);
     layout->addWidget(dimensionForm, 0, Qt::AlignRight);
     layout->addWidget(m_rodentModeForm, 0, Qt::AlignRight);
     layout->addStretch(1);

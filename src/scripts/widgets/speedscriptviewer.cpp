@@ -120,6 +120,7 @@ void SpeedScriptViewer::rebuildForm()
     if (!m_script)
         return;
     m_form = new PropertyListControl(m_script, {}, PropertyListControl::ViewMode_AllNoScroll, this);
+    m_form->setAutoFocus(false); // going through the scripts by keyboard stays where it is
     m_layout->insertWidget(0, m_form, 0, Qt::AlignTop);
     m_infoButton->raise();
 }
@@ -135,7 +136,7 @@ void SpeedScriptViewer::setDimension(CurlySpinbar::OutputSpeedDimension dimensio
 void SpeedScriptViewer::setCursorTime(double seconds)
 {
     m_cursorTime = seconds;
-    update();
+    updateGraph();
 }
 
 void SpeedScriptViewer::setTimeSpan(double seconds)
@@ -196,6 +197,12 @@ void SpeedScriptViewer::resizeEvent(QResizeEvent *event)
         m_infoButton->raise();
     }
     emit resized();
+}
+
+/// Without the form, which costs as much as the graph.
+void SpeedScriptViewer::updateGraph()
+{
+    update(rect().adjusted(0, m_topOffset - m_frame.metrics.rowHeight, 0, 0));
 }
 
 void SpeedScriptViewer::paintEvent(QPaintEvent *)
@@ -309,7 +316,7 @@ void SpeedScriptViewer::drag(Qt::KeyboardModifiers modifiers)
         return;
     const ScriptPoint point = pointAt(m_frame.scale, cursorInPlot(), m_script->getDurationSeconds());
     m_points[m_dragIndex] = snapped(point, modifiers & Qt::ShiftModifier ? Snap::Tenths : Snap::WholeNumbers);
-    update();
+    updateGraph();
 }
 
 void SpeedScriptViewer::release()

@@ -62,6 +62,8 @@ private:
     void placePlot();
     void describe();
 
+    void updateGraph();
+
     double spanSeconds() const;
     void preparePicture();
     void paintGraph(QPainter &painter);
