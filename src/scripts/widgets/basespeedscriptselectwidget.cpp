@@ -44,7 +44,7 @@ void BaseSpeedScriptSelectWidget::buildInterface()
     m_graph = new SpeedScriptViewer(nullptr, m_editable, nullptr);
     m_combo = new QComboBox;
     m_combo->setView(new QListView); // so that the style sheet reaches the items
-    m_combo->setPlaceholderText(QCoreApplication::translate("BaseSpeedScriptSelectWidget", "Not selected"));
+    m_combo->setPlaceholderText(tr("Not selected"));
     m_combo->setAccessibleName(QCoreApplication::translate("Generic", "Script"));
     m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_combo->setMinimumContentsLength(ShortestTitle);
@@ -121,7 +121,6 @@ void BaseSpeedScriptSelectWidget::reloadList(const QString &title)
     else
         scriptChanged();
     m_combo->setEnabled(!titles.isEmpty());
-    updateDependentWidgets();
 }
 
 void BaseSpeedScriptSelectWidget::unloadScript()
@@ -132,6 +131,7 @@ void BaseSpeedScriptSelectWidget::unloadScript()
         m_script = nullptr;
     }
     m_graph->setScript(nullptr);
+    updateDependentWidgets();
 }
 
 void BaseSpeedScriptSelectWidget::selectScript()

@@ -115,8 +115,8 @@ void GraphPainter::drawTicks()
 void GraphPainter::drawTrace(const QList<double> &speeds)
 {
     const QList<QPoint> line = GraphGeometry::traceLine(speeds, m_frame.scale);
-    // A record longer than the plot ends at the edge of the plot.
-    m_painter.setClipRect(area());
+    // A record longer than the plot ends at the edge of the plot, whose lines reach half a pixel beyond it.
+    m_painter.setClipRect(area().adjusted(0, -1, 1, 1));
     m_painter.setPen(m_palette.trace);
     for (qsizetype i = 1; i < line.size(); ++i)
         m_painter.drawLine(line[i - 1], line[i]);

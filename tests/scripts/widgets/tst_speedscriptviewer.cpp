@@ -149,6 +149,15 @@ private slots:
         QCOMPARE(stored(), (ScriptPoints{{1000, 15}}));
     }
 
+    void damagedPointsLeaveTheOthersEditable()
+    {
+        show({{-1e300, 5}, {2, 10}, {3, 1e300}, {1e300, -1e300}});
+        drag(at(2, 10), at(1, 12));
+        const ScriptPoints points = stored();
+        QCOMPARE(points.size(), 4);
+        QCOMPARE(points.at(1), (ScriptPoint{1, 12}));
+    }
+
     void dragEndsWithItsScript()
     {
         show({{2, 10}});
