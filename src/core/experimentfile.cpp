@@ -3,6 +3,8 @@
 #include "core/boundedmath.h"
 #include "core/recordslog.h"
 
+#include "framework/common/fileutilities.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -141,16 +143,9 @@ QByteArray ExperimentFile::toJson(const ExperimentData &data, const QString &nam
 
 bool ExperimentFile::write(const QString &path, const QByteArray &json)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
-        || file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        // Over the old text and with blanks for what that had more, which are cut afterwards: whenever the
-        // process ends, the file is a whole document.
-        const qint64 oldBytes = file.size() > MaxFileBytes ? 0 : file.size();
-        const QByteArray text = json.leftJustified(oldBytes, ' ');
-        if (file.write(text) == text.size() && (file.size() == json.size() || file.resize(json.size())))
-            return true;
-    }
-    qCWarning(recordsLog) << "Cannot write" << path << file.errorString();
+    QString error;
+    if (FileUtilities::overwrite(path, json, &error) == FileUtilities::WriteResult::Whole)
+        return true;
+    qCWarning(recordsLog) << "Cannot write" << path << error;
     return false;
 }

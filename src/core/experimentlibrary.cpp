@@ -1,7 +1,6 @@
 #include "core/experimentlibrary.h"
 
 #include "core/experimentfile.h"
-#include "core/experimentfolders.h"
 #include "core/recordslog.h"
 
 #include "framework/common/fileutilities.h"
@@ -39,7 +38,10 @@ ExperimentLibrary::ExperimentLibrary(const QString &recordsFolder)
 
 QStringList ExperimentLibrary::folders() const
 {
-    return experimentFolders(m_recordsFolder);
+    QStringList found = FileUtilities::getFilesOfType(m_recordsFolder, u"json"_s, true, true);
+    for (QString &path : found)
+        path.truncate(path.lastIndexOf('/'_L1) + 1);
+    return found;
 }
 
 QList<ExperimentEntry> ExperimentLibrary::list() const

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,8 @@ namespace {
 
 constexpr double BytesPerUnitStep = 1024.0;
 constexpr int FileSizeDecimals = 1;
+// Far above what is ever written, so that a foreign file of any size costs no memory.
+constexpr qint64 MaxCoveredBytes = 64 * 1024 * 1024;
 
 void appendSubfolders(const QString &base, const QString &prefix, bool recursive, QStringList &out)
 {
@@ -29,18 +32,31 @@ void appendSubfolders(const QString &base, const QString &prefix, bool recursive
     }
 }
 
-void appendFiles(const QString &folder, const QString &prefix, const QStringList &filters, bool recursive,
+bool hasSuffix(const QString &name, const QStringList &suffixes)
+{
+    return suffixes.isEmpty() || std::any_of(suffixes.cbegin(), suffixes.cend(), [&](const QString &suffix) {
+               return name.endsWith(suffix, Qt::CaseInsensitive);
+           });
+}
+
+void appendFiles(const QString &folder, const QString &prefix, const QStringList &suffixes, bool recursive,
                  bool fullPath, QStringList &out)
 {
+    // One look at the folder for both, and no name filter, which is compiled anew for each: a lab keeps
+    // thousands of folders.
     const QDir dir(folder);
-    const QStringList files = dir.entryList(filters, QDir::Files);
-    for (const QString &file : files)
-        out.append((fullPath ? dir.absolutePath() + '/'_L1 : prefix) + file);
-    if (!recursive)
-        return;
-    const QStringList subfolders = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
-    for (const QString &name : subfolders)
-        appendFiles(dir.filePath(name), prefix + name + '/'_L1, filters, true, fullPath, out);
+    const auto folders = recursive ? QDir::Dirs | QDir::NoDotAndDotDot : QDir::Filter(0);
+    const QFileInfoList entries = dir.entryInfoList(QDir::Files | folders);
+    const QString base = fullPath ? dir.absolutePath() + '/'_L1 : prefix;
+    for (const QFileInfo &entry : entries) {
+        if (!entry.isDir() && hasSuffix(entry.fileName(), suffixes))
+            out.append(base + entry.fileName());
+    }
+    for (const QFileInfo &entry : entries) {
+        const QString name = entry.fileName();
+        if (entry.isDir() && !entry.isSymLink())
+            appendFiles(dir.filePath(name), prefix + name + '/'_L1, suffixes, true, fullPath, out);
+    }
 }
 
 } // namespace
@@ -81,13 +97,13 @@ QStringList FileUtilities::getFilesOfTypes(const QString &folder, const QStringL
     if (!QDir(folder).exists())
         return {};
     static const QRegularExpression wildcard(u"[\\*\\.]+"_s);
-    QStringList filters;
+    QStringList suffixes;
     for (const QString &type : types) {
         if (!type.isEmpty())
-            filters.append("*."_L1 + QString(type).remove(wildcard));
+            suffixes.append('.'_L1 + QString(type).remove(wildcard));
     }
     QStringList files;
-    appendFiles(folder, {}, filters, recursive, fullPath, files);
+    appendFiles(folder, {}, suffixes, recursive, fullPath, files);
     return files;
 }
 
@@ -122,6 +138,23 @@ QString FileUtilities::base64_decodeFromPercentEncoding(const QString &text)
         .replace("%2F"_L1, "/"_L1)
         .replace("%2C"_L1, ","_L1);
     return QString::fromUtf8(base64_decode_as_bytes(plain));
+}
+
+FileUtilities::WriteResult FileUtilities::overwrite(const QString &path, const QByteArray &text,
+                                                    QString *error)
+{
+    QFile file(path);
+    // A file that may be written but not read can only be opened in the second way.
+    const bool opened = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
+                        || file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    const QByteArray padded = text.leftJustified(std::min(file.size(), MaxCoveredBytes), ' ');
+    const bool whole = opened && file.write(padded) == padded.size()
+                       && (file.size() == text.size() || file.resize(text.size()));
+    if (!whole && error)
+        *error = file.errorString();
+    if (!opened)
+        return WriteResult::NotOpened;
+    return whole ? WriteResult::Whole : WriteResult::InPart;
 }
 
 bool FileUtilities::acceptableFileName(const QString &name)

@@ -16,19 +16,19 @@ namespace {
 
 Q_LOGGING_CATEGORY(settingsLog, "spinbar.settings")
 
-// The new text goes over the old one in a single write, and what the old one had more is cut behind it. So
-// the file is never short, a full disk does not cost the old text, and the slow cutting of a file to nothing
-// (milliseconds on some systems) is spared.
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
-        && !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qCWarning(settingsLog) << "Cannot write" << path << file.errorString();
+    QString error;
+    switch (FileUtilities::overwrite(path, bytes, &error)) {
+    case FileUtilities::WriteResult::Whole:
+        break;
+    case FileUtilities::WriteResult::InPart:
+        qCWarning(settingsLog) << "Written in part only" << path << error;
+        break;
+    case FileUtilities::WriteResult::NotOpened:
+        qCWarning(settingsLog) << "Cannot write" << path << error;
         return false;
     }
-    if (file.write(bytes) != bytes.size() || (file.size() > bytes.size() && !file.resize(bytes.size())))
-        qCWarning(settingsLog) << "Written in part only" << path << file.errorString();
     return true;
 }
 
