@@ -1,0 +1,147 @@
+#include "ui/speedcontrol.h"
+
+#include "ui/controlrow.h"
+#include "ui/directjumpslider.h"
+
+#include "core/spinbarsettings.h"
+#include "device/speedconversion.h"
+#include "framework/common/widgets/iconwidget.h"
+#include "framework/settings/widgets/propertylistcontrol.h"
+
+#include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Just above the greatest speed, to which the device cuts it.
+constexpr int SliderMaximum = 4744;
+constexpr int SliderPerRotation = 1000;
+constexpr int IconSpacing = 4;
+constexpr int SliderSpacing = 2;
+
+int decimalsOf(CurlySpinbar::OutputSpeedDimension dimension)
+{
+    const bool coarse =
+        dimension == CurlySpinbar::RotationsPerMinute || dimension == CurlySpinbar::CentimetersPerSecond;
+    return coarse ? 2 : 3;
+}
+
+QString translated(const char *source)
+{
+    return QCoreApplication::translate("SpinbarController", source);
+}
+
+} // namespace
+
+SpeedControl::SpeedControl(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent)
+    : QWidget(parent)
+    , m_device(device)
+    , m_settings(settings)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(createTitleRow());
+    m_tabs = new QTabWidget;
+    layout->addWidget(m_tabs);
+    createManualWidgets();
+    connectWidgets();
+}
+
+QLayout *SpeedControl::createTitleRow()
+{
+    m_standingIcon =
+        ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#666"_s,
+                         translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение не осуществляется")));
+    m_rotationIcon =
+        ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#FFF"_s,
+                         translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение включено")));
+    m_offButton = ControlRow::offButton(
+        u"#F60"_s, translated(QT_TRANSLATE_NOOP("SpinbarController", "Выключить вращение")));
+    auto *unit =
+        new PropertyListControl(m_settings, u"RotationDimension"_s, PropertyListControl::ViewMode_Property);
+    unit->showDefaultButtons(false);
+    unit->showHeaders(false);
+    unit->setMinimumEditorWidth(0);
+    auto *title = new QLabel(translated(QT_TRANSLATE_NOOP("SpinbarController", "Speed")));
+    return ControlRow::create(IconSpacing,
+                              {m_standingIcon, m_rotationIcon, title, unit, nullptr, m_offButton});
+}
+
+void SpeedControl::createManualWidgets()
+{
+    const QString name = translated(QT_TRANSLATE_NOOP("SpinbarController", "Speed"));
+    m_slider = new DirectJumpSlider(nullptr);
+    m_slider->setRange(0, SliderMaximum);
+    m_slider->setValue(0);
+    m_slider->setAccessibleName(name);
+    m_spinBox = new QDoubleSpinBox;
+    m_spinBox->setStyleSheet(u"font-size: 14px"_s);
+    m_spinBox->setAccessibleName(name);
+    auto *page = new QWidget;
+    page->setLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));
+    m_tabs->addTab(page, translated(QT_TRANSLATE_NOOP("SpinbarController", "Manual control")));
+}
+
+void SpeedControl::connectWidgets()
+{
+    connect(m_slider, &QSlider::valueChanged, this, &SpeedControl::apply);
+    connect(m_spinBox, &QDoubleSpinBox::valueChanged, this, [this](double speed) {
+        const double motorSpeed =
+            m_device->convertSpeed(speed, m_dimension, CurlySpinbar::Speed_Motor_RotationsPerSecond);
+        m_slider->setValue(int(motorSpeed * SliderPerRotation));
+    });
+    connect(m_offButton, &QPushButton::clicked, this, &SpeedControl::turnOff);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &SpeedControl::turnOff);
+    connect(m_settings, &SpinbarSettings::changedRotationDimension, this, &SpeedControl::updateDimension);
+}
+
+double SpeedControl::shownSpeed() const
+{
+    return m_device->convertSpeed(double(m_slider->value()) / SliderPerRotation,
+                                  CurlySpinbar::Speed_Motor_RotationsPerSecond, m_dimension);
+}
+
+void SpeedControl::apply()
+{
+    const int speed = m_slider->value();
+    m_device->setMotorSpeed(double(speed) / SliderPerRotation);
+    {
+        const QSignalBlocker blocker(m_spinBox);
+        m_spinBox->setValue(shownSpeed());
+    }
+    m_standingIcon->setVisible(speed == 0);
+    m_rotationIcon->setVisible(speed != 0);
+    m_offButton->setVisible(speed != 0);
+}
+
+void SpeedControl::turnOff()
+{
+    m_slider->setValue(0);
+}
+
+void SpeedControl::setSliderEnabled(bool enabled)
+{
+    m_slider->setEnabled(enabled);
+}
+
+void SpeedControl::updateDimension()
+{
+    m_dimension = m_settings->getRotationDimension();
+    const int decimals = decimalsOf(m_dimension);
+    const QSignalBlocker blocker(m_spinBox);
+    m_spinBox->setDecimals(decimals);
+    m_spinBox->setSingleStep(std::pow(0.1, decimals));
+    m_spinBox->setMaximum(m_device->convertSpeed(SpeedConversion::MaxMotorSpeed,
+                                                 CurlySpinbar::Speed_Motor_RotationsPerSecond, m_dimension));
+    m_spinBox->setValue(shownSpeed());
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "device/curlyspinbar.h"
+
+#include <QWidget>
+
+class DirectJumpSlider;
+class IconWidget;
+class QDoubleSpinBox;
+class QLayout;
+class QPushButton;
+class QTabWidget;
+class SpinbarSettings;
+
+/// The drum's speed: by hand with a slider in thousandths of a motor revolution per second and a spin box in
+/// the operator's unit, or by a script on a second tab. Changing the tab stops the drum.
+class SpeedControl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The collaborators are not owned.
+    SpeedControl(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent = nullptr);
+
+    /// Shows the slider's value and commands it.
+    void apply();
+    void turnOff();
+    void setSliderEnabled(bool enabled);
+    /// Takes the unit from the settings.
+    void updateDimension();
+
+private:
+    void createManualWidgets();
+    QLayout *createTitleRow();
+    void connectWidgets();
+    double shownSpeed() const;
+
+    CurlySpinbar *m_device = nullptr;
+    SpinbarSettings *m_settings = nullptr;
+    CurlySpinbar::OutputSpeedDimension m_dimension = CurlySpinbar::CentimetersPerSecond;
+    IconWidget *m_standingIcon = nullptr;
+    IconWidget *m_rotationIcon = nullptr;
+    QPushButton *m_offButton = nullptr;
+    DirectJumpSlider *m_slider = nullptr;
+    QDoubleSpinBox *m_spinBox = nullptr;
+    QTabWidget *m_tabs = nullptr;
+};

@@ -1,0 +1,279 @@
+#include "ui/spinbarcontroller.h"
+
+#include "ui/calibrationbutton.h"
+#include "ui/connectionbar.h"
+#include "ui/gridcontrol.h"
+#include "ui/rodentstatuswidget.h"
+#include "ui/rungraph.h"
+#include "ui/speedcontrol.h"
+
+#include "core/spinbarmodel.h"
+#include "core/spinbarrecord.h"
+#include "core/spinbarsettings.h"
+#include "device/curlyspinbar.h"
+#include "framework/common/texthelper.h"
+#include "framework/common/widgets/mediahelper.h"
+#include "framework/common/widgets/stylehelper.h"
+#include "scripts/widgets/speedscriptviewer.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PanelWidth = 300;
+constexpr int PanelMargin = 16;
+constexpr int RodentGap = 8;
+constexpr int CalibrationGap = 2;
+constexpr int SectionGap = 24;
+constexpr int BigButtonHeight = 40;
+constexpr int GraphHeight = 220;
+constexpr int Filling = 100;
+constexpr QMargins LaneMargins{0, 16, 0, 16};
+
+SpinbarController *theController = nullptr;
+
+QPushButton *bigButton(const QString &text)
+{
+    auto *button = new QPushButton(text);
+    button->setStyleSheet(u"font-size: 18px"_s);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setMinimumHeight(BigButtonHeight);
+    return button;
+}
+
+} // namespace
+
+SpinbarController::SpinbarController(CurlySpinbar *device, QWidget *parent)
+    : QWidget(parent)
+    , m_device(device)
+{
+    if (!device)
+        return;
+    theController = this;
+    m_model = SpinbarModel::instance();
+    m_settings = m_model->settings();
+    createWidgets();
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(createPanel(), 0);
+    layout->addWidget(m_notConnectedLabel, Filling);
+    layout->addWidget(createLaneArea(), Filling);
+    connectDevice();
+    connectSettings();
+    prepare();
+    connectRecording();
+    updateInfraRed();
+}
+
+SpinbarController::~SpinbarController()
+{
+    if (theController == this)
+        theController = nullptr;
+}
+
+SpinbarController *SpinbarController::instance()
+{
+    return theController;
+}
+
+void SpinbarController::updateFirmware()
+{
+    emit firmwareUpdateRequested();
+}
+
+void SpinbarController::createWidgets()
+{
+    m_notConnectedLabel = new QLabel(tr("Device is not connected"));
+    m_notConnectedLabel->setStyleSheet(u"font-size: 20px; color: #999"_s);
+    m_notConnectedLabel->setAlignment(Qt::AlignCenter);
+    m_connectionBar = new ConnectionBar(m_device);
+    m_rodentBox = new QComboBox;
+    m_rodentBox->addItem(QIcon(u":/resources/images/rat.png"_s),
+                         QCoreApplication::translate("RodentMode", "Rats"));
+    m_rodentBox->addItem(QIcon(u":/resources/images/mouse.png"_s),
+                         QCoreApplication::translate("RodentMode", "Mice"));
+    m_rodentBox->setAccessibleName(QCoreApplication::translate("Generic", "RodentMode"));
+    m_calibrationButton = new CalibrationButton(m_device, m_settings, this);
+    m_grid = new GridControl(m_device);
+    m_speed = new SpeedControl(m_device, m_settings);
+    m_recordButton = bigButton(tr("Record"));
+    m_recordButton->setIcon(MediaHelper::icon(u":/icons/record.svg"_s));
+    m_stopButton = bigButton(tr("Stop"));
+    StyleHelper::SetButtonIcon(m_stopButton, u":/icons/stop.svg"_s, u"#FFF"_s);
+}
+
+QWidget *SpinbarController::createPanel()
+{
+    auto *panel = new QWidget;
+    panel->setMinimumWidth(PanelWidth);
+    panel->setContentsMargins(0, 0, 0, 0);
+    StyleHelper::Instance()->setStyledBackground(panel, u"--n-idle-bg"_s, Qt::white);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
+    layout->addWidget(m_connectionBar);
+    layout->addSpacing(RodentGap);
+    layout->addWidget(m_rodentBox);
+    layout->addSpacing(CalibrationGap);
+    layout->addWidget(m_calibrationButton);
+    layout->addSpacing(SectionGap);
+    layout->addWidget(m_grid);
+    layout->addSpacing(SectionGap);
+    layout->addWidget(m_speed);
+    layout->addStretch(Filling);
+    layout->addWidget(m_recordButton);
+    layout->addWidget(m_stopButton);
+    return panel;
+}
+
+QWidget *SpinbarController::createLaneArea()
+{
+    m_laneArea = new QWidget;
+    m_laneArea->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new QVBoxLayout(m_laneArea);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(LaneMargins);
+    m_ratWidgets = createLanes(m_device->ratDetectors());
+    m_mouseWidgets = createLanes(m_device->mouseDetectors());
+    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
+        row->addWidget(lane);
+    layout->addLayout(row, Filling);
+    m_graph = new SpeedScriptViewer(nullptr, false, nullptr);
+    m_graph->setFixedHeight(GraphHeight);
+    layout->addWidget(m_graph);
+    return m_laneArea;
+}
+
+QList<RodentStatusWidget *> SpinbarController::createLanes(const QList<SpinbarDetection *> &lanes)
+{
+    QList<RodentStatusWidget *> widgets;
+    for (SpinbarDetection *lane : lanes)
+        widgets += new RodentStatusWidget(lane, nullptr);
+    return widgets;
+}
+
+void SpinbarController::connectDevice()
+{
+    // Queued, so that the page never runs inside the device's own signals.
+    for (const auto signal :
+         {&BaseDevice::connected, &BaseDevice::disconnected, &BaseDevice::serialNumberFetched})
+        connect(m_device, signal, this, &SpinbarController::updateConnection, Qt::QueuedConnection);
+    connect(m_device, &CurlySpinbar::powerChanged, this, &SpinbarController::updateConnection,
+            Qt::QueuedConnection);
+    connect(m_device, &CurlySpinbar::modeChanged, this, &SpinbarController::updateMode);
+    connect(m_rodentBox, &QComboBox::currentIndexChanged, this, [this](int index) {
+        m_device->setRodentMode(index == 0 ? CurlySpinbarDevice::Rats : CurlySpinbarDevice::Mice);
+    });
+    connect(m_connectionBar, &ConnectionBar::firmwareUpdateRequested, this,
+            &SpinbarController::updateFirmware);
+}
+
+void SpinbarController::connectSettings()
+{
+    connect(m_settings, &SpinbarSettings::changedCalibrationRats, this, &SpinbarController::updateMode);
+    connect(m_settings, &SpinbarSettings::changedCalibrationMice, this, &SpinbarController::updateMode);
+    connect(m_settings, &SpinbarSettings::changedShowIR, this, &SpinbarController::updateInfraRed);
+}
+
+void SpinbarController::connectRecording()
+{
+    connect(m_recordButton, &QPushButton::clicked, m_model, [this] { m_model->startRecord({}); });
+    connect(m_stopButton, &QPushButton::clicked, m_model, &SpinbarModel::stopRecord);
+    m_connections << connect(m_model, &SpinbarModel::recordStarted, this, [this] { showRecording(true); });
+    m_connections << connect(m_model, &SpinbarModel::recordStopped, this, [this] { showRecording(false); });
+    m_connections << connect(m_model, &SpinbarModel::recordDurationChanged, this, [this](double second) {
+        m_stopButton->setText(TextHelper::TimeToText(second, false));
+        refreshGraph();
+    });
+}
+
+void SpinbarController::prepare()
+{
+    updateConnection();
+    m_speed->apply();
+    m_grid->apply();
+    m_device->setRodentMode(m_settings->getRodentMode());
+    updateMode();
+    m_speed->updateDimension();
+    m_stopButton->hide();
+}
+
+void SpinbarController::updateConnection()
+{
+    const bool connected = m_device->isConnected() && !m_device->serialNumber().isEmpty();
+    const bool powered = connected && m_device->isPowered();
+    setEnabled(connected);
+    // A dialog that is open when the instrument goes has to stay usable, at least to be closed.
+    for (QDialog *dialog : findChildren<QDialog *>())
+        dialog->setEnabled(true);
+    m_connectionBar->showState(connected, powered);
+    m_notConnectedLabel->setVisible(!connected);
+    m_laneArea->setVisible(connected);
+    if (connected) {
+        m_speed->setSliderEnabled(powered);
+        m_grid->setSliderEnabled(powered);
+    } else {
+        m_speed->turnOff();
+        m_grid->turnOff();
+    }
+}
+
+void SpinbarController::updateMode()
+{
+    const CurlySpinbarDevice::RodentMode mode = m_device->rodentMode();
+    const bool rats = mode == CurlySpinbarDevice::Rats;
+    {
+        const QSignalBlocker blocker(m_rodentBox);
+        m_rodentBox->setCurrentIndex(rats ? 0 : 1);
+    }
+    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
+        lane->hide();
+    for (RodentStatusWidget *lane : rats ? m_ratWidgets : m_mouseWidgets)
+        lane->show();
+    // The text follows the new drum, and the command is repeated.
+    m_speed->apply();
+    m_settings->setRodentMode(mode);
+    m_speed->updateDimension();
+    m_calibrationButton->applyCalibration();
+}
+
+void SpinbarController::updateInfraRed()
+{
+    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
+        lane->setInfraRedVisible(m_settings->getShowIR());
+}
+
+void SpinbarController::showRecording(bool recording)
+{
+    if (recording)
+        m_stopButton->setText(u"00:00"_s);
+    QPushButton *hidden = recording ? m_recordButton : m_stopButton;
+    QPushButton *shown = recording ? m_stopButton : m_recordButton;
+    const bool focused = hidden->hasFocus();
+    hidden->hide();
+    shown->show();
+    // Otherwise the focus would go to the next control in order.
+    if (focused)
+        shown->setFocus();
+    m_calibrationButton->setVisible(!recording);
+    m_graph->clearRecord();
+}
+
+void SpinbarController::refreshGraph()
+{
+    SpinbarRecord *record = m_model->currentRecord();
+    if (!record)
+        return;
+    const RunGraph run = RunGraph::of(*record, m_device->detectors());
+    m_graph->setTimeSpan(run.spanSeconds);
+    m_graph->setLanes(run.laneCount, run.bars);
+    m_graph->setSpeedTrace(record->speeds());
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "framework/common/connectionhelper.h"
+
+#include <QList>
+#include <QWidget>
+
+class CalibrationButton;
+class ConnectionBar;
+class CurlySpinbar;
+class GridControl;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class RodentStatusWidget;
+class SpeedControl;
+class SpeedScriptViewer;
+class SpinbarDetection;
+class SpinbarModel;
+class SpinbarSettings;
+
+/// The surface on which an experiment is driven: link and power, rats or mice, grid, speed, recording, the
+/// lanes, and a graph of the running recording. It is enabled while the instrument is there.
+class SpinbarController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \a device is not owned; without one the widget stays empty.
+    SpinbarController(CurlySpinbar *device, QWidget *parent);
+    ~SpinbarController() override;
+
+    /// The one made last, or null.
+    static SpinbarController *instance();
+
+    void updateFirmware();
+
+signals:
+    void firmwareUpdateRequested();
+
+private:
+    void createWidgets();
+    QWidget *createPanel();
+    QWidget *createLaneArea();
+    QList<RodentStatusWidget *> createLanes(const QList<SpinbarDetection *> &lanes);
+    void connectDevice();
+    void connectSettings();
+    void connectRecording();
+    void prepare();
+
+    void updateConnection();
+    void updateMode();
+    void updateInfraRed();
+    void showRecording(bool recording);
+    void refreshGraph();
+
+    CurlySpinbar *m_device = nullptr;
+    SpinbarModel *m_model = nullptr;
+    SpinbarSettings *m_settings = nullptr;
+    QList<RodentStatusWidget *> m_ratWidgets;
+    QList<RodentStatusWidget *> m_mouseWidgets;
+    ConnectionBar *m_connectionBar = nullptr;
+    QComboBox *m_rodentBox = nullptr;
+    CalibrationButton *m_calibrationButton = nullptr;
+    GridControl *m_grid = nullptr;
+    SpeedControl *m_speed = nullptr;
+    QPushButton *m_recordButton = nullptr;
+    QPushButton *m_stopButton = nullptr;
+    QLabel *m_notConnectedLabel = nullptr;
+    QWidget *m_laneArea = nullptr;
+    SpeedScriptViewer *m_graph = nullptr;
+    ConnectionHelper m_connections;
+};

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "ui/mainwindow.h"
+
+#include "core/spinbarmodel.h"
+#include "core/spinbarsettings.h"
+#include "device/curlyspinbar.h"
+#include "device/newspinbar.h"
+#include "device/serialportmanager.h"
+#include "simulator/simulatedinstrument.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+/// A window as the operator has it before them, with a simulated instrument that can be plugged in.
+class OperatorBench
+{
+public:
+    /// So many times faster than a real instrument.
+    static constexpr double Rate = 20.0;
+
+    OperatorBench()
+    {
+        SerialPortManager::instance().setProvider([this] { return ports(); });
+        model = std::make_unique<SpinbarModel>(nullptr, data.path());
+        window = std::make_unique<MainWindow>(model.get(), nullptr);
+        window->show();
+    }
+
+    ~OperatorBench()
+    {
+        window.reset();
+        model.reset();
+        SerialPortManager::instance().closeAll();
+        SerialPortManager::instance().setProvider({});
+    }
+    Q_DISABLE_COPY_MOVE(OperatorBench)
+
+    /// True when the instrument has told all that it tells at first.
+    bool plugIn(QByteArray scenario = {}, bool powered = true)
+    {
+        SimulatedInstrumentOptions options;
+        options.rate = Rate;
+        options.linkPath = data.filePath(QStringLiteral("port"));
+        options.instrument.powered = powered;
+        QBuffer buffer(&scenario);
+        buffer.open(QIODevice::ReadOnly);
+        options.instrument.scenario = Scenario::read(buffer, {}).scenario;
+        instrument = std::make_unique<SimulatedInstrument>(options);
+        QObject::connect(
+            instrument.get(), &SimulatedInstrument::commandReceived, window.get(),
+            [this](const QString &command, Instrument::Outcome, qint64) { commands += command; });
+        return instrument->start() && waitForConnection(true) && QTest::qWaitFor([&] {
+                   return model->device()->isPowered() == powered && !model->device()->version().isEmpty();
+               });
+    }
+
+    /// True when the instrument is there or is gone.
+    bool waitForConnection(bool connected)
+    {
+        // The search's own rounds are seconds apart.
+        constexpr int SearchMs = 300;
+        QTimer search;
+        QObject::connect(&search, &QTimer::timeout, &model->device()->device(),
+                         &CurlyDevice::connectionTimerHandler);
+        search.start(SearchMs);
+        return QTest::qWaitFor([&] { return model->device()->isConnected() == connected; });
+    }
+
+    /// True when the instrument's latest command of this name is \a command.
+    bool waitForCommand(const QString &command)
+    {
+        const QString name = command.first(command.indexOf(u'=') + 1);
+        return QTest::qWaitFor([&] {
+            const QStringList all = commands.filter(name);
+            return !all.isEmpty() && all.constLast() == command;
+        });
+    }
+
+    /// Named so for the operator: by its text or its accessible name.
+    QPushButton *button(const QString &text) const
+    {
+        for (QPushButton *button : window->findChildren<QPushButton *>()) {
+            if (button->text() == text || button->accessibleName() == text)
+                return button;
+        }
+        return nullptr;
+    }
+
+    void click(const QString &text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
+
+    /// Presses that button of the message box that comes up next, and gives the box's title and text.
+    static std::shared_ptr<QStringList> answerNext(const QString &buttonText)
+    {
+        auto said = std::make_shared<QStringList>();
+        QTimer::singleShot(0, qApp, [=] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            *said = {box->windowTitle(), box->text()};
+            for (QAbstractButton *button : box->buttons()) {
+                if (button->text() == buttonText)
+                    return button->click();
+            }
+            box->reject();
+        });
+        return said;
+    }
+
+    QTemporaryDir data;
+    std::unique_ptr<SpinbarModel> model;
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SimulatedInstrument> instrument;
+    QStringList commands;
+
+private:
+    QList<PortInfo> ports() const
+    {
+        if (!instrument || instrument->path().isEmpty())
+            return {};
+        return {{QStringLiteral("COM7"), instrument->path(), {}, {}}};
+    }
+};

@@ -1,0 +1,303 @@
+#include "ui/connectionbar.h"
+#include "ui/directjumpslider.h"
+#include "ui/gridcontrol.h"
+#include "ui/rodentstatuswidget.h"
+#include "ui/rungraph.h"
+#include "ui/speedcontrol.h"
+#include "ui/spinbarcontroller.h"
+
+#include "core/spinbarrecord.h"
+#include "detection/spinbardetection.h"
+#include "framework/common/widgets/iconwidget.h"
+#include "operatorbench.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QWheelEvent>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename T>
+QStringList shownTexts(const QWidget *parent)
+{
+    QStringList texts;
+    for (const T *widget : parent->findChildren<T *>()) {
+        if constexpr (std::is_same_v<T, IconWidget>)
+            texts += widget->isVisible() ? QStringList(widget->toolTip()) : QStringList();
+        else
+            texts += widget->isVisible() && !widget->text().isEmpty() ? QStringList(widget->text())
+                                                                      : QStringList();
+    }
+    return texts;
+}
+
+QList<RodentStatusWidget *> shownLanes(const QWidget *parent)
+{
+    QList<RodentStatusWidget *> lanes = parent->findChildren<RodentStatusWidget *>();
+    lanes.removeIf([](const RodentStatusWidget *lane) { return lane->isHidden(); });
+    return lanes;
+}
+
+} // namespace
+
+class TestDevicePage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void linkAndPowerAreShown()
+    {
+        OperatorBench bench;
+        auto *controller = SpinbarController::instance();
+        const auto *bar = controller->findChild<ConnectionBar *>();
+        const auto *speed = controller->findChild<SpeedControl *>()->findChild<DirectJumpSlider *>();
+        QVERIFY(!controller->isEnabled());
+        QCOMPARE(shownTexts<IconWidget>(bar), QStringList(u"Спинбар не найден"_s));
+        QCOMPARE(shownTexts<QLabel>(bar), QStringList(u"Not connected"_s));
+        QVERIFY(shownTexts<QLabel>(controller).contains(u"Device is not connected"_s));
+        QVERIFY(bench.plugIn("60 power on\n", false));
+        QTRY_VERIFY(controller->isEnabled());
+        QCOMPARE(shownTexts<QLabel>(bar), QStringList(u"B42403101"_s));
+        QCOMPARE(shownTexts<IconWidget>(bar),
+                 QStringList(u"Спинбар найден, но силовое питание не подключено"_s));
+        QVERIFY(!speed->isEnabled());
+        QVERIFY(!shownTexts<QLabel>(controller).contains(u"Device is not connected"_s));
+        QTRY_COMPARE(shownTexts<IconWidget>(bar), QStringList(u"Спинбар и силовое питание подключено"_s));
+        QVERIFY(speed->isEnabled());
+    }
+
+    void speedTravelsThroughTheSlider_data()
+    {
+        QTest::addColumn<CurlySpinbar::OutputSpeedDimension>("unit");
+        QTest::addColumn<double>("typed");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<double>("shown");
+        QTest::addColumn<double>("maximum");
+        // 9.487179487179487 motor rotations a drum rotation, 21.991148575128552 cm a drum rotation; whole
+        // thousandths of a motor rotation, and the device's top speed is half a drum rotation a second.
+        QTest::newRow("cm/s") << CurlySpinbar::CentimetersPerSecond << 5.0 << u"rotate=2.157"_s << 5.00
+                              << 11.00;
+        QTest::newRow("rpm") << CurlySpinbar::RotationsPerMinute << 12.0 << u"rotate=1.897"_s << 12.0 << 30.0;
+        QTest::newRow("rps") << CurlySpinbar::RotationsPerSecond << 0.25 << u"rotate=2.371"_s << 0.25 << 0.5;
+        QTest::newRow("top") << CurlySpinbar::RotationsPerMinute << 99.0 << u"rotate=4.743"_s << 30.0 << 30.0;
+    }
+
+    void speedTravelsThroughTheSlider()
+    {
+        QFETCH(CurlySpinbar::OutputSpeedDimension, unit);
+        QFETCH(double, typed);
+        OperatorBench bench;
+        QVERIFY(bench.plugIn());
+        auto *control = SpinbarController::instance()->findChild<SpeedControl *>();
+        auto *box = control->findChild<QDoubleSpinBox *>();
+        const auto *slider = control->findChild<DirectJumpSlider *>();
+        QTRY_VERIFY(slider->isEnabled());
+        const QPushButton *off = bench.button(u"Выключить вращение"_s);
+        QVERIFY(off->isHidden());
+        bench.model->settings()->setRotationDimension(unit);
+        QTEST(box->maximum(), "maximum");
+        box->setValue(typed);
+        QFETCH(QString, command);
+        QVERIFY2(bench.waitForCommand(command), qPrintable(bench.commands.join(u' ')));
+        QTEST(box->value(), "shown");
+        QVERIFY(off->isVisible());
+        bench.click(u"Выключить вращение"_s);
+        QVERIFY(bench.waitForCommand(u"rotate=0.000"_s));
+        QCOMPARE(box->value(), 0.0);
+        QVERIFY(off->isHidden());
+    }
+
+    void gridSettlesOnTenths()
+    {
+        OperatorBench bench;
+        QVERIFY(bench.plugIn());
+        auto *control = SpinbarController::instance()->findChild<GridControl *>();
+        auto *slider = control->findChild<DirectJumpSlider *>();
+        auto *box = control->findChild<QDoubleSpinBox *>();
+        slider->setValue(1234);
+        QCOMPARE(slider->value(), 1200);
+        QCOMPARE(box->value(), 1.2);
+        QVERIFY(bench.waitForCommand(u"grid=1.2"_s));
+        box->setValue(15.0);
+        QCOMPARE(slider->value(), 15000);
+        QVERIFY(bench.waitForCommand(u"grid=15.0"_s));
+        bench.click(u"Выключить электросетку"_s);
+        QVERIFY(bench.waitForCommand(u"grid=0.0"_s));
+        QVERIFY(bench.button(u"Выключить электросетку"_s)->isHidden());
+    }
+
+    void rodentsChangeLanesAndSpeed()
+    {
+        OperatorBench bench;
+        QVERIFY(bench.plugIn("1 6 on\n"));
+        auto *controller = SpinbarController::instance();
+        auto *speedBox = controller->findChild<SpeedControl *>()->findChild<QDoubleSpinBox *>();
+        QTRY_VERIFY(controller->isEnabled());
+        QCOMPARE(shownLanes(controller).size(), 4);
+        speedBox->setValue(7.0);
+        QVERIFY(bench.waitForCommand(u"rotate=3.019"_s));
+        bench.commands.clear();
+        controller->findChild<QComboBox *>()->setCurrentIndex(1);
+        QVERIFY(bench.waitForCommand(u"irmode=m"_s));
+        // The drum turns on; the smaller one runs 4/7 of the way.
+        QVERIFY(bench.waitForCommand(u"rotate=3.019"_s));
+        QCOMPARE(speedBox->value(), 4.0);
+        QCOMPARE(bench.model->settings()->getRodentMode(), CurlySpinbarDevice::Mice);
+        QCOMPARE(shownLanes(controller).size(), 7);
+        RodentStatusWidget *lane = shownLanes(controller).at(5);
+        QCOMPARE(lane->laneIndex(), 5);
+        QTRY_COMPARE(shownTexts<QLabel>(lane).size(), 2);
+        bench.model->settings()->setShowIR(true);
+        QVERIFY(shownTexts<QLabel>(lane).constFirst().endsWith("/34"_L1));
+    }
+
+    void recordingShowsItsTimeAndBars()
+    {
+        OperatorBench bench;
+        QVERIFY(bench.plugIn("1 1 on\n3 4 on\n20 1 off\n"));
+        QTRY_VERIFY(SpinbarController::instance()->isEnabled());
+        auto *record = bench.button(u"Record"_s);
+        auto *stop = bench.button(u"Stop"_s);
+        QVERIFY(record->isVisible() && stop->isHidden());
+        QTest::mouseClick(record, Qt::LeftButton);
+        QVERIFY(record->isHidden() && stop->isVisible());
+        QVERIFY(stop->hasFocus());
+        QVERIFY(bench.button(u"Калибровка датчиков"_s)->isHidden());
+        QCOMPARE(stop->text(), u"00:00"_s);
+        QTRY_COMPARE(stop->text(), u"00:01"_s);
+        SpinbarRecord *running = bench.model->currentRecord();
+        QTRY_COMPARE(running->rawItems().size(), 1);
+        const RunGraph graph = RunGraph::of(*running, bench.model->device()->detectors());
+        QCOMPARE(std::fmod(graph.spanSeconds, 5.0), 0.0);
+        QVERIFY(graph.spanSeconds >= running->durationSeconds());
+        QVERIFY(graph.spanSeconds < running->durationSeconds() + 5);
+        QCOMPARE(graph.laneCount, 4);
+        QCOMPARE(graph.bars.size(), 2);
+        QCOMPARE(graph.bars.at(0).index, 0);
+        QCOMPARE(graph.bars.at(1).index, 3);
+        QCOMPARE(graph.bars.at(1).end, qint64(running->durationSeconds() * 1000));
+        QVERIFY(graph.bars.at(1).start >= 0 && graph.bars.at(1).start < 10000);
+        QTest::mouseClick(stop, Qt::LeftButton);
+        QVERIFY(!bench.model->currentRecord());
+        QVERIFY(record->isVisible() && stop->isHidden());
+        QVERIFY(bench.button(u"Калибровка датчиков"_s)->isVisible());
+    }
+
+    void unplugEndsRecordingAndZeroesControls()
+    {
+        OperatorBench bench;
+        QVERIFY(bench.plugIn("1 3 on\n30 link off 20\n"));
+        auto *controller = SpinbarController::instance();
+        QTRY_VERIFY(controller->isEnabled());
+        auto *speed = controller->findChild<SpeedControl *>()->findChild<DirectJumpSlider *>();
+        auto *grid = controller->findChild<GridControl *>()->findChild<DirectJumpSlider *>();
+        speed->setValue(2000);
+        grid->setValue(500);
+        QVERIFY(bench.waitForCommand(u"rotate=2.000"_s));
+        QSignalSpy stopped(bench.model.get(), &SpinbarModel::recordStopped);
+        bench.click(u"Record"_s);
+        const QString folder = bench.model->currentRecord()->folder();
+        QVERIFY(bench.waitForConnection(false));
+        QTRY_VERIFY(!controller->isEnabled());
+        QCOMPARE(stopped.size(), 1);
+        QCOMPARE(speed->value() + grid->value(), 0);
+        SpinbarRecord stored(folder, {});
+        QVERIFY(stored.load());
+        QCOMPARE(stored.rawItems().size(), 1);
+        bench.commands.clear();
+        QVERIFY(bench.waitForConnection(true));
+        QTRY_VERIFY(controller->isEnabled());
+        QVERIFY(bench.button(u"Record"_s)->isVisible());
+        QVERIFY(bench.commands.filter(u"rotate=2"_s).isEmpty());
+    }
+
+    void laneTellsTimeAndDistance_data()
+    {
+        QTest::addColumn<CurlySpinbar::OutputSpeedDimension>("unit");
+        QTest::addColumn<QString>("distance");
+        // 47436 thousandths of a motor rotation are 5.0000 drum rotations of 0.219911 m.
+        QTest::newRow("cm") << CurlySpinbar::CentimetersPerSecond << u"110.0 cm"_s;
+        QTest::newRow("m") << CurlySpinbar::MetersPerSecond << u"1.10 m"_s;
+        QTest::newRow("km/h") << CurlySpinbar::KilometersPerHour << u"1.10 m"_s;
+        QTest::newRow("rpm") << CurlySpinbar::RotationsPerMinute << u"5.00 rot."_s;
+    }
+
+    void laneTellsTimeAndDistance()
+    {
+        QFETCH(CurlySpinbar::OutputSpeedDimension, unit);
+        OperatorBench bench;
+        bench.model->settings()->setRotationDimension(unit);
+        SpinbarDetection detection(2, true);
+        RodentStatusWidget lane(&detection, nullptr);
+        lane.setInfraRedVisible(false);
+        lane.show();
+        detection.update(40, 1000, 200);
+        QTRY_VERIFY(!lane.findChild<QLabel *>()->text().isEmpty());
+        QCOMPARE(shownTexts<QLabel>(&lane), QStringList());
+        // Samples that find the animal, then the last one 65 s after it came.
+        while (!detection.isPresent())
+            detection.update(10, 1000, detection.lastClock() + 200);
+        detection.update(10, 1000 + 47436, detection.startTime() + 65000);
+        QFETCH(QString, distance);
+        QTRY_COMPARE(shownTexts<QLabel>(&lane), QStringList({u"01:05"_s, distance}));
+        lane.setInfraRedVisible(true);
+        QCOMPARE(shownTexts<QLabel>(&lane).constFirst(), u"10/34"_s);
+    }
+
+    void sliderJumpsToThePlaceClicked()
+    {
+        DirectJumpSlider slider(nullptr);
+        slider.setRange(0, 1000);
+        slider.resize(200, 30);
+        slider.show();
+        QSignalSpy jumps(&slider, &DirectJumpSlider::sliderJump);
+        QSignalSpy released(&slider, &QSlider::sliderReleased);
+        QSignalSpy right(&slider, &DirectJumpSlider::rightButtonPressed);
+        QTest::mousePress(&slider, Qt::LeftButton, {}, {50, 15});
+        QCOMPARE(slider.value(), 250);
+        QCOMPARE(jumps.value(0).value(0).toInt(), 250);
+        QCOMPARE(released.size(), 1);
+        QTest::mouseRelease(&slider, Qt::LeftButton, {}, {50, 15});
+        QTest::mousePress(&slider, Qt::MiddleButton, {}, {150, 15});
+        QTest::mousePress(&slider, Qt::RightButton, {}, {180, 15});
+        QCOMPARE(right.size(), 1);
+        slider.setInvertedAppearance(true);
+        QTest::mousePress(&slider, Qt::LeftButton, {}, {50, 15});
+        QCOMPARE(slider.value(), 750);
+        QTest::mousePress(&slider, Qt::RightButton, {}, {50, 15});
+        QCOMPARE(right.size(), 1);
+        QWheelEvent wheel({50, 15}, {50, 15}, {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&slider, &wheel);
+        QVERIFY(wheel.isAccepted());
+        QCOMPARE(slider.value(), 750);
+        slider.setWheelIgnored(true);
+        QApplication::sendEvent(&slider, &wheel);
+        QVERIFY(!wheel.isAccepted());
+    }
+
+    void everyControlHasAName()
+    {
+        OperatorBench bench;
+        for (const QWidget *widget : bench.window->findChildren<QWidget *>()) {
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            const bool isControl = button || qobject_cast<const QAbstractSlider *>(widget)
+                                   || qobject_cast<const QAbstractSpinBox *>(widget)
+                                   || qobject_cast<const QComboBox *>(widget);
+            if (!isControl || widget->focusPolicy() == Qt::NoFocus
+                || qobject_cast<const QScrollBar *>(widget))
+                continue;
+            const QString name = widget->accessibleName() + (button ? button->text() : QString());
+            QVERIFY2(!name.isEmpty(), widget->metaObject()->className());
+        }
+    }
+};
+
+QTEST_MAIN(TestDevicePage)
+#include "tst_devicepage.moc"
