@@ -3,10 +3,12 @@
 #include "ui/controlrow.h"
 #include "ui/directjumpslider.h"
 
+#include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
 #include "device/speedconversion.h"
 #include "framework/common/widgets/iconwidget.h"
 #include "framework/settings/widgets/propertylistcontrol.h"
+#include "scripts/widgets/speedscriptselectandrunwidget.h"
 
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
@@ -43,10 +45,10 @@ QString translated(const char *source)
 
 } // namespace
 
-SpeedControl::SpeedControl(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent)
+SpeedControl::SpeedControl(SpinbarModel &model, QWidget *parent)
     : QWidget(parent)
-    , m_device(device)
-    , m_settings(settings)
+    , m_device(model.device())
+    , m_settings(model.settings())
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -54,6 +56,8 @@ SpeedControl::SpeedControl(CurlySpinbar *device, SpinbarSettings *settings, QWid
     m_tabs = new QTabWidget;
     layout->addWidget(m_tabs);
     createManualWidgets();
+    m_runner = new SpeedScriptSelectAndRunWidget(model, nullptr);
+    m_tabs->addTab(m_runner, translated(QT_TRANSLATE_NOOP("SpinbarController", "Script")));
     connectWidgets();
 }
 
@@ -101,8 +105,12 @@ void SpeedControl::connectWidgets()
         m_slider->setValue(int(motorSpeed * SliderPerRotation));
     });
     connect(m_offButton, &QPushButton::clicked, this, &SpeedControl::turnOff);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &SpeedControl::turnOff);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        m_runner->setRunning(false);
+        turnOff();
+    });
     connect(m_settings, &SpinbarSettings::changedRotationDimension, this, &SpeedControl::updateDimension);
+    connect(m_settings, &SpinbarSettings::changedRodentMode, this, &SpeedControl::passDimensionToScript);
 }
 
 double SpeedControl::shownSpeed() const
@@ -144,4 +152,10 @@ void SpeedControl::updateDimension()
     m_spinBox->setMaximum(m_device->convertSpeed(SpeedConversion::MaxMotorSpeed,
                                                  CurlySpinbar::Speed_Motor_RotationsPerSecond, m_dimension));
     m_spinBox->setValue(shownSpeed());
+    passDimensionToScript();
+}
+
+void SpeedControl::passDimensionToScript()
+{
+    m_runner->setDimension(m_dimension, m_settings->getRodentMode());
 }

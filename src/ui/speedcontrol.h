@@ -10,6 +10,8 @@ class QDoubleSpinBox;
 class QLayout;
 class QPushButton;
 class QTabWidget;
+class SpeedScriptSelectAndRunWidget;
+class SpinbarModel;
 class SpinbarSettings;
 
 /// The drum's speed: by hand with a slider in thousandths of a motor revolution per second and a spin box in
@@ -19,8 +21,8 @@ class SpeedControl : public QWidget
     Q_OBJECT
 
 public:
-    /// The collaborators are not owned.
-    SpeedControl(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent = nullptr);
+    /// \a model is not owned.
+    explicit SpeedControl(SpinbarModel &model, QWidget *parent = nullptr);
 
     /// Shows the slider's value and commands it.
     void apply();
@@ -33,6 +35,7 @@ private:
     void createManualWidgets();
     QLayout *createTitleRow();
     void connectWidgets();
+    void passDimensionToScript();
     double shownSpeed() const;
 
     CurlySpinbar *m_device = nullptr;
@@ -44,4 +47,5 @@ private:
     DirectJumpSlider *m_slider = nullptr;
     QDoubleSpinBox *m_spinBox = nullptr;
     QTabWidget *m_tabs = nullptr;
+    SpeedScriptSelectAndRunWidget *m_runner = nullptr;
 };

@@ -104,7 +104,7 @@ void SpinbarController::createWidgets()
     m_rodentBox->setAccessibleName(QCoreApplication::translate("Generic", "RodentMode"));
     m_calibrationButton = new CalibrationButton(m_device, m_settings, this);
     m_grid = new GridControl(m_device);
-    m_speed = new SpeedControl(m_device, m_settings);
+    m_speed = new SpeedControl(*m_model);
     m_recordButton = bigButton(tr("Record"));
     m_recordButton->setIcon(MediaHelper::icon(u":/icons/record.svg"_s));
     m_stopButton = bigButton(tr("Stop"));

@@ -10,12 +10,15 @@
 #include "detection/spinbardetection.h"
 #include "framework/common/widgets/iconwidget.h"
 #include "operatorbench.h"
+#include "scripts/widgets/speedscriptselectandrunwidget.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFile>
 #include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -112,6 +115,34 @@ private slots:
         QVERIFY(bench.waitForCommand(u"rotate=0.000"_s));
         QCOMPARE(box->value(), 0.0);
         QVERIFY(off->isHidden());
+    }
+
+    void scriptRunsUntilTheTabChanges()
+    {
+        OperatorBench bench;
+        QFile script(bench.model->scriptsFolder() + "Level.xml"_L1);
+        QVERIFY(script.open(QFile::WriteOnly));
+        script.write(
+            "<SpeedScript><DurationSeconds>60</DurationSeconds><Points>0.000:6.00\r\n60.000:6.00</Points>"
+            "</SpeedScript>");
+        script.close();
+        QVERIFY(bench.plugIn());
+        QTRY_VERIFY(SpinbarController::instance()->isEnabled());
+        auto *runner = SpinbarController::instance()->findChild<SpeedScriptSelectAndRunWidget *>();
+        runner->reloadList({});
+        auto *tabs = SpinbarController::instance()->findChild<QTabWidget *>();
+        auto *slider =
+            SpinbarController::instance()->findChild<SpeedControl *>()->findChild<DirectJumpSlider *>();
+        slider->setValue(1000);
+        QVERIFY(bench.waitForCommand(u"rotate=1.000"_s));
+        tabs->setCurrentIndex(1);
+        QVERIFY(bench.waitForCommand(u"rotate=0.000"_s));
+        QCOMPARE(slider->value(), 0);
+        bench.click(u"Run script"_s);
+        // 6 / 2 pi: the script's number counts as radians a second.
+        QVERIFY2(bench.waitForCommand(u"rotate=0.955"_s), qPrintable(bench.commands.join(u' ')));
+        tabs->setCurrentIndex(0);
+        QVERIFY(bench.waitForCommand(u"rotate=0.000"_s));
     }
 
     void gridSettlesOnTenths()
