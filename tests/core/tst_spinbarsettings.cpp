@@ -1,8 +1,10 @@
 #include "core/spinbarsettings.h"
 
+#include "framework/settings/languagecontext.h"
 #include "framework/settings/settingswalk.h"
 #include "framework/settings/startlanguage.h"
 
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -107,6 +109,40 @@ private Q_SLOTS:
         QCOMPARE(property.step, 0.1);
         QCOMPARE(property.suffix, u" s"_s);
         QCOMPARE(property.extras.value(u"Precision"_s), u"1"_s);
+    }
+
+    // Last, since what is installed stays installed.
+    void anotherProcessIsToldTheTranslations()
+    {
+        QCOMPARE(LanguageContext::setLanguage(u"ru_RU"_s), u"ru_RU"_s);
+        SpinbarSettings settings({}, nullptr);
+        const QJsonArray shown = settings.getAllCapabilitiesJson(false);
+        QCOMPARE(shown.size(), 9);
+        QCOMPARE(settings.getAllCapabilitiesJson(true).size(), 19);
+        QCOMPARE(shown.at(4).toObject(),
+                 (QJsonObject{{u"name"_s, u"RodentMode"_s},
+                              {u"nameTranslated"_s, u"Режим"_s},
+                              {u"type"_s, u"Enum"_s},
+                              {u"value"_s, u"Rats"_s},
+                              {u"default"_s, u"Rats"_s},
+                              {u"category"_s, u"2.Experiment"_s},
+                              {u"categoryTranslated"_s, u"Эксперимент"_s},
+                              {u"enum"_s, QJsonArray{u"Rats"_s, u"Mice"_s}},
+                              {u"enumTranslations"_s, QJsonArray{u"Крысы"_s, u"Мыши"_s}},
+                              {u"hideDefault"_s, true}}));
+        QCOMPARE(shown.at(6).toObject(), (QJsonObject{{u"name"_s, u"MinDetectionSeconds"_s},
+                                                      {u"nameTranslated"_s, u"Мин. время пребывания"_s},
+                                                      {u"type"_s, u"double"_s},
+                                                      {u"value"_s, 5},
+                                                      {u"default"_s, u"5"_s},
+                                                      {u"min"_s, 0},
+                                                      {u"max"_s, 100},
+                                                      {u"step"_s, 0.1},
+                                                      {u"category"_s, u"3.Detection"_s},
+                                                      {u"categoryTranslated"_s, u"Детекция"_s},
+                                                      {u"Precision"_s, u"1"_s},
+                                                      {u"suffix"_s, u" s"_s},
+                                                      {u"suffixTranslated"_s, u" с"_s}}));
     }
 };
 

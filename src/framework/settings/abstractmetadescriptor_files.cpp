@@ -6,9 +6,12 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,15 @@ bool writeFile(const QString &path, const QByteArray &bytes)
         return false;
     }
     return true;
+}
+
+std::optional<QString> readFile(const QString &path)
+{
+    // Opening a pipe of that name would wait for its other end.
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll());
 }
 
 void writeStringMap(QXmlStreamWriter &writer, const AbstractMetaDescription &description,
@@ -109,10 +121,8 @@ QByteArray AbstractMetaDescriptor::saveToJsonByteArray(QJsonDocument::JsonFormat
 
 bool AbstractMetaDescriptor::load(const QString &file)
 {
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly))
-        return false;
-    return loadFromXmlString(QString::fromUtf8(source.readAll()));
+    const std::optional<QString> text = readFile(file);
+    return text && loadFromXmlString(*text);
 }
 
 // The children of an unknown element are looked at in turn. Setters save the file when saving is not held
@@ -157,10 +167,8 @@ void AbstractMetaDescriptor::loadXmlContent(const QString &endElementName, QXmlS
 
 bool AbstractMetaDescriptor::loadFromJsonFile(const QString &file)
 {
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly))
-        return false;
-    return loadFromJson(QString::fromUtf8(source.readAll()));
+    const std::optional<QString> text = readFile(file);
+    return text && loadFromJson(*text);
 }
 
 bool AbstractMetaDescriptor::loadFromJson(const QString &text)

@@ -8,6 +8,10 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -150,6 +154,19 @@ private Q_SLOTS:
         QVERIFY(settings.reload());
         QCOMPARE(settings.getCount(), 3);
     }
+
+#ifdef Q_OS_UNIX
+    void pipeInThePlaceOfTheFileIsNotWaitedFor()
+    {
+        for (const NTSettings::NTSettingsFormat format : {NTSettings::XML, NTSettings::JSON}) {
+            const QString path = m_folder->filePath(QString::number(format));
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), S_IRUSR | S_IWUSR), 0);
+            SampleSettings settings(path, true, format);
+            QVERIFY(settings.reload());
+            QCOMPARE(settings.getCount(), 2);
+        }
+    }
+#endif
 
     void badFilesAreReadAsFarAsTheyGo_data()
     {
