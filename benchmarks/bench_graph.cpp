@@ -31,7 +31,7 @@ void paintRecord(benchmark::State &state)
     viewer.resize(1200, 220);
     QList<ExperimentItem> bars;
     for (int i = 0; i < stays; ++i)
-        bars.append({.start = i * 1'900, .end = i * 1'900 + 5'000, .index = i % lanes});
+        bars.append({i * 1'900, i * 1'900 + 5'000, i % lanes, 0.0, true, {}});
     viewer.setTimeSpan(static_cast<double>(state.range(0)) * 3600);
     viewer.setSpeedTrace(trace(state.range(0)));
     viewer.setLanes(lanes, bars);
