@@ -16,10 +16,11 @@ namespace {
 
 const QString Suffix = u"xml"_s;
 
-/// A title with a separator would be a path and lead to a file outside the folder.
+/// A title with a separator would be a path and lead to a file outside the folder; one with a dot in front is
+/// that of a hidden file, which no list shows.
 bool isFileName(const QString &title)
 {
-    return QFileInfo(title).fileName() == title && !title.contains(QChar::Null);
+    return QFileInfo(title).fileName() == title && !title.startsWith('.'_L1) && !title.contains(QChar::Null);
 }
 
 ScriptLibrary::Outcome logged(ScriptLibrary::Outcome outcome, const QString &path)

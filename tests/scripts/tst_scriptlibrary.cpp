@@ -44,6 +44,8 @@ private slots:
                                    << Outcome::CannotRename;
         QTest::newRow("path") << u"../Settings"_s << Outcome::CannotSave << Outcome::CannotCopy
                               << Outcome::CannotRename;
+        QTest::newRow("hidden") << u".One"_s << Outcome::CannotSave << Outcome::CannotCopy
+                                << Outcome::CannotRename;
         QTest::newRow("too long for a file")
             << QString(400, u'x') << Outcome::CannotSave << Outcome::CannotCopy << Outcome::CannotRename;
     }
