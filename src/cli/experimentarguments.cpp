@@ -1,5 +1,8 @@
 #include "cli/experimentarguments.h"
 
+#include "core/experimentfile.h"
+#include "framework/common/fileutilities.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -7,22 +10,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// A record takes its folder in this form, and makes it if it is missing.
+QString recordFolder(const QString &path)
+{
+    return FileUtilities::FolderSlash(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+}
+
 bool isExperimentFolder(const QString &path)
 {
-    return QFileInfo(QDir(path).filePath(u"experiment.json"_s)).isFile();
+    return QFileInfo(ExperimentFile::pathIn(recordFolder(path))).isFile();
 }
 
 // Empty if the word names no experiment.
 QString experimentFolder(const CommandContext &context, const QString &word)
 {
     const QFileInfo info(word);
-    if (info.fileName() == "experiment.json"_L1 && info.isFile())
-        return info.absolutePath();
+    const QString ofFile = info.absolutePath();
+    if (info.fileName() == "experiment.json"_L1 && info.isFile() && isExperimentFolder(ofFile))
+        return recordFolder(ofFile);
     if (!word.isEmpty() && isExperimentFolder(word))
-        return info.absoluteFilePath();
+        return recordFolder(word);
     const QString underRecords = context.recordsFolder() + word;
-    return !word.isEmpty() && isExperimentFolder(underRecords) ? QFileInfo(underRecords).absoluteFilePath()
-                                                               : QString();
+    return !word.isEmpty() && isExperimentFolder(underRecords) ? recordFolder(underRecords) : QString();
 }
 
 } // namespace
@@ -34,6 +43,10 @@ Records loadExperiments(CommandContext &context, const QStringList &words)
         folders.append(experimentFolder(context, word));
         if (folders.constLast().isEmpty()) {
             failed(context, u"'%1': no such experiment"_s.arg(word));
+            return {};
+        }
+        if (!QFileInfo(ExperimentFile::pathIn(folders.constLast())).isReadable()) {
+            failed(context, u"'%1': cannot be read"_s.arg(word));
             return {};
         }
     }

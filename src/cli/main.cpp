@@ -1,3 +1,4 @@
+#include "cli/command.h"
 #include "cli/commandline.h"
 
 #include <QCoreApplication>
@@ -16,5 +17,9 @@ int main(int argc, char **argv)
     QTextStream out(stdout);
     QTextStream err(stderr);
     CommandContext context{{}, out, err};
-    return static_cast<int>(runCommandLine(QCoreApplication::arguments(), context));
+    ExitCode code = runCommandLine(QCoreApplication::arguments(), context);
+    out.flush();
+    if (code == ExitCode::Done && out.status() != QTextStream::Ok)
+        code = failed(context, u"standard output: cannot be written"_s);
+    return static_cast<int>(code);
 }

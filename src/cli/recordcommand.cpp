@@ -1,5 +1,6 @@
 #include "cli/command.h"
 #include "cli/recordsession.h"
+#include "cli/scriptfile.h"
 #include "core/sensorcalibration.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
@@ -24,9 +25,13 @@ ExitCode record(CommandContext &context, const RecordOptions &options)
 {
     std::unique_ptr<SpeedScript> script;
     if (!options.scriptTitle.isEmpty()) {
-        script = ScriptLibrary(context.scriptsFolder()).load(options.scriptTitle);
+        const ScriptLibrary library(context.scriptsFolder());
+        script = library.load(options.scriptTitle);
         if (!script)
             return failed(context, u"'%1': no such script"_s.arg(options.scriptTitle));
+        const QString path = library.findFile(options.scriptTitle);
+        if (const QString fault = scriptFileFault(path); !fault.isEmpty())
+            return failed(context, u"'%1': %2"_s.arg(path, fault));
     }
     SpinbarModel model(nullptr, context.dataFolder);
     if (!QFileInfo(model.recordsFolder()).isDir())

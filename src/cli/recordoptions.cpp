@@ -51,6 +51,8 @@ std::optional<RecordOptions> RecordOptions::read(const QCommandLineParser &parse
         reader.fault(u"--speed and --unit go together"_s);
     if (parser.isSet(u"script"_s) && options.speed)
         reader.fault(u"--script and --speed exclude each other"_s);
+    if (parser.isSet(u"script"_s) && parser.value(u"script"_s).isEmpty())
+        reader.fault(u"--script needs a title"_s);
     options.scriptTitle = parser.value(u"script"_s);
     options.title = parser.value(u"title"_s);
     options.comment = parser.value(u"comment"_s);

@@ -1,8 +1,10 @@
 #include "cli/recordreport.h"
 
 #include "cli/command.h"
+#include "core/boundedmath.h"
 
 #include <QJsonDocument>
+#include <QLocale>
 
 #include <utility>
 
@@ -50,8 +52,8 @@ void RecordReport::found(int lane)
 
 void RecordReport::fall(qint64 start, qint64 end, double rotations, int index, bool rat)
 {
-    const QString seconds =
-        QString::number(double(end) / MillisecondsPerSecond - double(start) / MillisecondsPerSecond);
+    const QString seconds = QString::number(Bounded::difference(end, start) / MillisecondsPerSecond, 'g',
+                                            QLocale::FloatingPointShortest);
     event(u"fall"_s,
           {{u"start"_s, start},
            {u"end"_s, end},

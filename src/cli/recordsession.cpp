@@ -46,6 +46,8 @@ RecordSession::RecordSession(SpinbarModel &model, const RecordOptions &options, 
 void RecordSession::connectModel()
 {
     connect(&m_device, &BaseDevice::connected, this, &RecordSession::handleConnected);
+    connect(&m_device, &CurlySpinbar::disconnected, this, &RecordSession::handleDisconnected);
+    connect(&m_device, &CurlySpinbar::newStatus, this, &RecordSession::tellWriteError);
     connect(&m_device, &BaseDevice::serialNumberFetched, this, [this] {
         m_report.serial(m_device.serialNumber());
         beginWhenReady();
@@ -99,13 +101,14 @@ void RecordSession::beginRecording()
 {
     m_waitTimer.stop();
     m_model.startRecord({});
-    SpinbarRecord *record = m_model.currentRecord();
-    m_path = QDir::cleanPath(QDir(record->folder()).absolutePath());
-    record->setTitle(m_options.title);
-    record->setComment(m_options.comment);
-    record->save();
+    m_record = m_model.currentRecord();
+    m_path = QDir::cleanPath(QDir(m_record->folder()).absolutePath());
+    m_record->setTitle(m_options.title);
+    m_record->setComment(m_options.comment);
+    m_record->save();
     m_phase = Phase::Recording;
     m_report.recording(m_path);
+    tellWriteError();
     connectDetectors();
     drive();
     if (m_options.duration)
@@ -128,13 +131,34 @@ void RecordSession::stopDrum()
 void RecordSession::connectDetectors()
 {
     for (SpinbarDetection *detector : m_device.detectors()) {
-        connect(detector, &SpinbarDetection::found, this,
-                [this, lane = detector->index() + 1] { m_report.found(lane); });
+        connect(detector, &SpinbarDetection::found, this, [this, lane = detector->index() + 1] {
+            if (m_phase == Phase::Recording)
+                m_report.found(lane);
+        });
     }
+}
+
+void RecordSession::handleDisconnected()
+{
+    // In a recording the rows of its stop come first.
+    if (m_phase == Phase::Waiting)
+        m_report.disconnected();
+}
+
+void RecordSession::tellWriteError()
+{
+    if (!m_record)
+        return;
+    const QString error = m_record->writeError();
+    if (!error.isEmpty() && error != m_toldWriteError)
+        m_context.err << "spinbar-cli: " << error << Qt::endl;
+    m_toldWriteError = error;
 }
 
 void RecordSession::handleRecordStopped()
 {
+    // The record lives until the event loop runs again.
+    tellWriteError();
     const bool linkLost = !m_device.isConnected();
     if (linkLost)
         m_report.disconnected();
@@ -143,7 +167,10 @@ void RecordSession::handleRecordStopped()
         m_player.setRunning(false);
     if (m_options.speed)
         stopDrum();
-    end(linkLost ? ExitCode::LinkLost : ExitCode::Done);
+    if (!m_toldWriteError.isEmpty())
+        end(ExitCode::Failed);
+    else
+        end(linkLost ? ExitCode::LinkLost : ExitCode::Done);
 }
 
 void RecordSession::handleWaitOver()

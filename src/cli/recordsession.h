@@ -6,10 +6,12 @@
 #include "scripts/scriptplayer.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 class SpeedScript;
 class SpinbarModel;
+class SpinbarRecord;
 
 /// One recording from the wait for the instrument to its end.
 class RecordSession : public QObject
@@ -40,7 +42,9 @@ private:
     void connectPlayer();
     void drive();
     void stopDrum();
+    void handleDisconnected();
     void handleRecordStopped();
+    void tellWriteError();
     void handleWaitOver();
     void end(ExitCode code);
 
@@ -55,4 +59,6 @@ private:
     QTimer m_durationTimer;
     Phase m_phase = Phase::Waiting;
     QString m_path;
+    QPointer<SpinbarRecord> m_record;
+    QString m_toldWriteError;
 };

@@ -1,11 +1,12 @@
 #include "cli/command.h"
+#include "cli/scriptfile.h"
 #include "cli/tableoutput.h"
 #include "scripts/scriptexpansion.h"
 #include "scripts/speedscript.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonObject>
+#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +52,8 @@ ExitCode runScript(CommandContext &context, const QStringList &arguments)
     if (parser.positionalArguments().size() != 1)
         return wrongUsage(context, u"'script' takes one file"_s);
     const QString path = parser.positionalArguments().constFirst();
-    const QFileInfo file(path);
-    if (!file.isFile() || !file.isReadable())
-        return failed(context, u"'%1': no such file, or it cannot be read"_s.arg(path));
+    if (const QString fault = scriptFileFault(path); !fault.isEmpty())
+        return failed(context, u"'%1': %2"_s.arg(path, fault));
     SpeedScript script(path);
     script.setAutoSave(false);
     script.reload();
@@ -62,7 +62,8 @@ ExitCode runScript(CommandContext &context, const QStringList &arguments)
         printJson(context.out, toJson(script));
         return ExitCode::Done;
     }
-    context.out << "Duration " << script.getDurationSeconds() << " s, "
+    context.out << "Duration "
+                << QString::number(script.getDurationSeconds(), 'g', QLocale::FloatingPointShortest) << " s, "
                 << (script.getInfinite() ? u"endless"_s : u"%1 loops"_s.arg(script.getLoops())) << "\n\n";
     printTable(context.out, toTable(script));
     return ExitCode::Done;

@@ -141,11 +141,13 @@ QByteArray ExperimentFile::toJson(const ExperimentData &data, const QString &nam
     return QJsonDocument(QJsonObject{{u"experiment"_s, experiment}}).toJson(QJsonDocument::Indented);
 }
 
-bool ExperimentFile::write(const QString &path, const QByteArray &json)
+bool ExperimentFile::write(const QString &path, const QByteArray &json, QString *error)
 {
-    QString error;
-    if (FileUtilities::overwrite(path, json, &error) == FileUtilities::WriteResult::Whole)
+    QString reason;
+    if (FileUtilities::overwrite(path, json, &reason) == FileUtilities::WriteResult::Whole)
         return true;
-    qCWarning(recordsLog) << "Cannot write" << path << error;
+    qCWarning(recordsLog) << "Cannot write" << path << reason;
+    if (error)
+        *error = reason;
     return false;
 }

@@ -34,7 +34,7 @@ bool read(const QString &path, ExperimentData &data);
 QByteArray toJson(const ExperimentData &data, const QString &name);
 
 /// Rewrites the file in place with one write call, never leaving it short on the way. False, with a line in
-/// the log, on failure.
-bool write(const QString &path, const QByteArray &json);
+/// the log and the reason in \a error, on failure.
+bool write(const QString &path, const QByteArray &json, QString *error = nullptr);
 
 } // namespace ExperimentFile

@@ -90,7 +90,16 @@ bool SpinbarRecord::load()
 
 bool SpinbarRecord::save()
 {
-    return ExperimentFile::write(experimentJsonPath(), ExperimentFile::toJson(m_data, m_name));
+    QString reason;
+    const bool saved =
+        ExperimentFile::write(experimentJsonPath(), ExperimentFile::toJson(m_data, m_name), &reason);
+    m_saveError = saved ? QString() : u"'%1': %2"_s.arg(experimentJsonPath(), reason);
+    return saved;
+}
+
+QString SpinbarRecord::writeError() const
+{
+    return m_statusLog.error().isEmpty() ? m_saveError : m_statusLog.error();
 }
 
 void SpinbarRecord::loadStatus(bool force)

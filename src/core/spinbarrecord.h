@@ -35,6 +35,9 @@ public:
     /// Appends the rows of "experiment.json". False if the file is missing or is no experiment.
     bool load();
     bool save();
+    /// What of the recording is not on the disk: the file and the reason of the first status line that was
+    /// lost, else of the last save if it failed. Empty if all is there.
+    QString writeError() const;
     /// Reads "status.log" unless it is in memory already.
     void loadStatus(bool force);
     /// Gives back the memory of what the next reader can load again; nothing during a recording.
@@ -85,6 +88,7 @@ private:
     StatusLog::Writer m_statusLog;
     StatusCounters m_counters;
     QList<double> m_speeds;
+    QString m_saveError;
     qint64 m_lastDeviceTime = 0;
     bool m_statusLoaded = false;
     bool m_missingLogTold = false;

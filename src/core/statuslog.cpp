@@ -64,11 +64,19 @@ bool StatusLog::read(const QString &path, StatusCounters &counters)
 bool StatusLog::Writer::open(const QString &path)
 {
     close();
+    m_error.clear();
     m_file.setFileName(path);
     if (m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return true;
     qCWarning(recordsLog) << "Cannot open" << path << "for writing:" << m_file.errorString();
+    noteFailure();
     return false;
+}
+
+void StatusLog::Writer::noteFailure()
+{
+    if (m_error.isEmpty())
+        m_error = u"'%1': %2"_s.arg(m_file.fileName(), m_file.errorString());
 }
 
 void StatusLog::Writer::close()
@@ -83,18 +91,21 @@ void StatusLog::Writer::append(const QString &message)
     QByteArray line = message.toUtf8();
     line.replace(',', ';').append("\r\n");
     const bool written = m_file.write(line) == line.size();
-    if (written) {
-        m_wholeLinesBytes += line.size();
-    } else if (m_file.pos() != m_wholeLinesBytes || m_file.size() != m_wholeLinesBytes) {
-        // Half a line would read as a line with other numbers.
-        m_file.resize(m_wholeLinesBytes);
-        m_file.seek(m_wholeLinesBytes);
-    }
     if (m_failing == written) {
         m_failing = !written;
         if (m_failing)
             qCWarning(recordsLog) << "Cannot write to" << m_file.fileName() << m_file.errorString();
         else
             qCWarning(recordsLog) << "Writing again to" << m_file.fileName();
+    }
+    if (written) {
+        m_wholeLinesBytes += line.size();
+        return;
+    }
+    noteFailure();
+    if (m_file.pos() != m_wholeLinesBytes || m_file.size() != m_wholeLinesBytes) {
+        // Half a line would read as a line with other numbers.
+        m_file.resize(m_wholeLinesBytes);
+        m_file.seek(m_wholeLinesBytes);
     }
 }

@@ -26,8 +26,14 @@ public:
     /// Writes \a message with ";" for "," and "\r\n" behind it.
     void append(const QString &message);
 
+    /// The first failure since open(), with the file's name; empty if every line is in the file.
+    QString error() const { return m_error; }
+
 private:
+    void noteFailure();
+
     QFile m_file;
+    QString m_error;
     qint64 m_wholeLinesBytes = 0;
     bool m_failing = false;
 };

@@ -76,6 +76,7 @@ private slots:
             << QStringList{u"record"_s, u"--speed"_s, u"1"_s, u"--unit"_s, u"mph"_s};
         QTest::newRow("speed and script")
             << QStringList{u"record"_s, u"--speed"_s, u"1"_s, u"--unit"_s, u"rpm"_s, u"--script"_s, u"s"_s};
+        QTest::newRow("script without title") << QStringList{u"record"_s, u"--script"_s, QString()};
         QTest::newRow("duration no number") << QStringList{u"record"_s, u"--duration"_s, u"long"_s};
         QTest::newRow("above the top speed") << QStringList{
             u"--data"_s, m_folder.filePath(u"speed"_s), u"record"_s, u"--speed"_s, u"30.01"_s, u"--unit"_s,
@@ -100,17 +101,38 @@ private slots:
                                                u"gone"_s};
         QTest::newRow("script") << QStringList{u"script"_s, u"gone"_s};
         QTest::newRow("replay") << QStringList{u"replay"_s, u"gone"_s};
+#ifndef Q_OS_WIN
+        QTest::newRow("backslash taken for a slash") << QStringList{u"table"_s, u"gone\\below"_s};
+#endif
         QTest::newRow("recording by a script") << QStringList{u"record"_s, u"--script"_s, u"gone"_s};
     }
 
     void whatDoesNotExistIsToldAndEndsWithOne()
     {
         writeExperiment(u"A"_s, experimentJson("First", oneRow));
+        writeExperiment(u"gone\\below"_s, experimentJson("Out of reach", oneRow));
         QFETCH(QStringList, words);
         const CliRun run = runData(words);
         QCOMPARE(run.exitCode, Failed);
         QVERIFY2(run.err.contains("gone"_L1), qPrintable(run.err));
         QVERIFY(!QFile::exists(m_folder.filePath(u"Records/gone"_s)));
+        QVERIFY(QDir(m_folder.filePath(u"Records/gone\\below"_s)).removeRecursively());
+    }
+
+    void brokenScriptIsToldAndNotPlayed()
+    {
+        const QString path = m_folder.filePath(u"Scripts/Broken.xml"_s);
+        for (const QByteArray &bytes : {QByteArray(), QByteArray("<SpeedScript><Loops>3</Loops>"),
+                                        QByteArray(100'000, '\0'), QByteArray("\xff\xfe{}")}) {
+            QVERIFY(writeFile(path, bytes));
+            for (const QStringList &words :
+                 {QStringList{u"script"_s, u"--json"_s, path}, {u"record"_s, u"--script"_s, u"Broken"_s}}) {
+                const CliRun run = runData(words);
+                QCOMPARE(run.exitCode, Failed);
+                QVERIFY2(run.err.contains(path), qPrintable(run.err));
+                QCOMPARE(run.out, QString());
+            }
+        }
     }
 
     void readingMakesNoFolders()

@@ -15,7 +15,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int StartTimeoutMs = 20'000;
+constexpr int FailedCode = 1;
 constexpr int LinkLostCode = 4;
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 /// A program whose standard output is awaited.
 class Program : public QProcess
@@ -82,6 +89,28 @@ private slots:
         QVERIFY(simulator.waitForFinished(StartTimeoutMs));
         QCOMPARE(simulator.exitCode(), 0);
         QVERIFY(!QFileInfo(port()).isSymLink());
+    }
+
+    void fullDiskIsToldAndKeepsWhatIsThere()
+    {
+        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+        QVERIFY(simulator.waitForText("ready "));
+        // A limit on the size of files refuses a write as a full disk does: in the middle of a line.
+        QProcess recorder;
+        recorder.setProcessEnvironment(m_environment);
+        const QString limited = u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s;
+        recorder.start(u"sh"_s, QStringList{u"-c"_s, limited, qEnvironmentVariable("SPINBAR_CLI")}
+                                    + recordArguments() + QStringList{u"--duration"_s, u"3"_s});
+        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QCOMPARE(recorder.exitCode(), FailedCode);
+        QVERIFY(recorder.readAllStandardError().contains(recordedFolder().toUtf8() + "status.log': "));
+        const QByteArray log = readFile(recordedFolder() + "status.log"_L1);
+        QVERIFY(log.size() > 900 && log.size() <= 1024 && log.endsWith("\r\n"));
+        // The rows of the last save that found room.
+        QByteArray rows = recorder.readAllStandardOutput();
+        SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
+        QVERIFY(record.load());
+        QVERIFY(!record.rawItems().isEmpty() && record.rawItems().size() <= rows.count("\"fall\""));
     }
 
     void killedRecorderLosesAtMostTheLineInFlight()

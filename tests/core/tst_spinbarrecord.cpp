@@ -197,6 +197,30 @@ private slots:
         QCOMPARE(record.experimentTable(true).size(), 1 + 1 + 1 + 3);
     }
 
+    void whatIsNotOnTheDiskIsTold()
+    {
+#ifdef Q_OS_LINUX
+        const ExperimentFolder folder;
+        QVERIFY(QFile::link(u"/dev/full"_s, folder.path() + "status.log"_L1));
+        SpinbarRecord record(folder.path(), QDateTime::currentDateTime());
+        record.start();
+        QCOMPARE(record.writeError(), QString());
+        record.addStatus(statusLine(1000, 0));
+        QVERIFY2(record.writeError().contains("status.log"_L1), qPrintable(record.writeError()));
+        record.addItem(1000, 2000, 1, 0, true, {});
+        QCOMPARE(folder.experiment()["items"_L1].toArray().size(), 1);
+#endif
+        const ExperimentFolder blocked;
+        QVERIFY(QDir().mkpath(blocked.path() + "experiment.json"_L1));
+        SpinbarRecord unsaved(blocked.path(), QDateTime::currentDateTime());
+        unsaved.start();
+        QVERIFY2(unsaved.writeError().contains("experiment.json"_L1), qPrintable(unsaved.writeError()));
+        QVERIFY(QDir().rmdir(blocked.path() + "experiment.json"_L1));
+        // The next save brings all of it.
+        unsaved.stop();
+        QCOMPARE(unsaved.writeError(), QString());
+    }
+
     void afterReleaseTheLogIsReadAgain()
     {
         const ExperimentFolder folder;

@@ -59,6 +59,20 @@ void appendFiles(const QString &folder, const QString &prefix, const QStringList
     }
 }
 
+/// Lengthens an old text by blanks, so that a full disk refuses a longer one while the old one still stands.
+bool makeRoom(QFile &file, qint64 bytes, QString &error)
+{
+    const qint64 before = file.size();
+    if (before == 0 || bytes <= before)
+        return true;
+    const QByteArray blanks(bytes - before, ' ');
+    if (file.seek(before) && file.write(blanks) == blanks.size() && file.seek(0))
+        return true;
+    error = file.errorString();
+    file.resize(before);
+    return false;
+}
+
 } // namespace
 
 bool FileUtilities::createIfNotExists(const QString &folder)
@@ -147,11 +161,12 @@ FileUtilities::WriteResult FileUtilities::overwrite(const QString &path, const Q
     // A file that may be written but not read can only be opened in the second way.
     const bool opened = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
                         || file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    QString reason;
     const QByteArray padded = text.leftJustified(std::min(file.size(), MaxCoveredBytes), ' ');
-    const bool whole = opened && file.write(padded) == padded.size()
+    const bool whole = opened && makeRoom(file, padded.size(), reason) && file.write(padded) == padded.size()
                        && (file.size() == text.size() || file.resize(text.size()));
     if (!whole && error)
-        *error = file.errorString();
+        *error = reason.isEmpty() ? file.errorString() : reason;
     if (!opened)
         return WriteResult::NotOpened;
     return whole ? WriteResult::Whole : WriteResult::InPart;

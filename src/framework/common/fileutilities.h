@@ -35,8 +35,9 @@ QString base64_decodeFromPercentEncoding(const QString &text);
 enum class WriteResult { Whole, InPart, NotOpened };
 
 /// Puts \a text in the place of the file's content with one write that covers all of a longer old one with
-/// blanks, which are cut afterwards: whenever the process ends, the file holds a whole text. Nor is it ever
-/// short, which would cost the old text on a full disk. \a error tells a failure.
+/// blanks, which are cut afterwards: whenever the process ends, the file holds a whole text. A shorter old
+/// one gets blanks behind it first, so a full disk costs the new text and not the old. \a error tells a
+/// failure.
 WriteResult overwrite(const QString &path, const QByteArray &text, QString *error = nullptr);
 
 /// False if the name holds one of / \ : * ? < > "

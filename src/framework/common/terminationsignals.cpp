@@ -31,6 +31,7 @@ BOOL WINAPI handleConsoleEvent(DWORD)
 // A handler may do little more than write a byte: the event loop reads it at the other end.
 std::array<int, 2> thePipe{-1, -1};
 constexpr std::array theSignals{SIGINT, SIGTERM, SIGHUP};
+std::array<struct sigaction, theSignals.size()> theEarlierActions{};
 
 void handleSignal(int)
 {
@@ -77,8 +78,12 @@ TerminationSignals::TerminationSignals(QObject *parent)
     action.sa_handler = handleSignal;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int signal : theSignals)
-        sigaction(signal, &action, nullptr);
+    for (std::size_t i = 0; i < theSignals.size(); ++i) {
+        sigaction(theSignals[i], &action, &theEarlierActions[i]);
+        // Whoever started the process so wants it to outlive its terminal.
+        if (theSignals[i] == SIGHUP && theEarlierActions[i].sa_handler == SIG_IGN)
+            sigaction(SIGHUP, &theEarlierActions[i], nullptr);
+    }
     std::signal(SIGPIPE, SIG_IGN);
 }
 
@@ -86,8 +91,8 @@ TerminationSignals::~TerminationSignals()
 {
     if (!m_notifier)
         return;
-    for (const int signal : theSignals)
-        std::signal(signal, SIG_DFL);
+    for (std::size_t i = 0; i < theSignals.size(); ++i)
+        sigaction(theSignals[i], &theEarlierActions[i], nullptr);
     delete m_notifier;
     close(thePipe[0]);
     close(thePipe[1]);
