@@ -93,7 +93,8 @@ QString readOptions(const QCommandLineParser &parser, const Options &options,
         return u"--link needs a path"_s;
     }
     simulated->replayPath = parser.value(options.replay);
-    if (parser.isSet(options.replay) && !QFileInfo(simulated->replayPath).isReadable())
+    const QFileInfo replay(simulated->replayPath);
+    if (parser.isSet(options.replay) && (!replay.isReadable() || replay.isDir()))
         return u"%1: cannot be read"_s.arg(simulated->replayPath);
     return readInstrument(parser, options, &simulated->instrument);
 }

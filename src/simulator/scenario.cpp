@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LaneCount = 7;
+/// With the line's end.
 constexpr qint64 MaxLineBytes = 1000;
 constexpr int MaxLines = 100'000;
 /// Thirty years: far beyond any session, and safe to count in milliseconds.
@@ -95,13 +96,14 @@ Scenario::Result Scenario::read(QIODevice &device, const QString &name)
     Result result;
     QList<ScenarioEvent> &events = result.scenario.events;
     for (int number = 1;; ++number) {
-        const QByteArray raw = device.readLine(MaxLineBytes + 1);
+        // Room for a terminator, which some versions of the library count in.
+        const QByteArray raw = device.readLine(MaxLineBytes + 2);
         // A pipe says that it is at its end before it has been read, so only an empty line tells.
         if (raw.isEmpty() && device.atEnd())
             break;
         if (raw.isEmpty())
             return {{}, u"%1: %2"_s.arg(name, device.errorString())};
-        const bool tooMuch = raw.size() >= MaxLineBytes || number > MaxLines;
+        const bool tooMuch = raw.size() > MaxLineBytes || number > MaxLines;
         const QString text = QString::fromUtf8(raw).trimmed();
         const QString line = text.section(u'#', 0, 0).trimmed();
         if (line.isEmpty() && !tooMuch)

@@ -205,6 +205,8 @@ private slots:
         const TestPorts ports({line.info()});
         PlainDevice device;
         device.send(u"never"_s);
+        QTest::ignoreMessage(QtInfoMsg, "PORT closed COM-UNKNOWN");
+        device.writeNow({}, "never", 0, true);
         device.start();
         QTRY_VERIFY(device.isConnected());
         line.take();
@@ -281,6 +283,41 @@ private slots:
         device.exchangeTimerHandler();
         QCoreApplication::processEvents();
         QCOMPARE(device.take(), QStringList());
+    }
+
+    void anyErrorEndsTheLinkButNoErrorDoesNot()
+    {
+        TestLine line(u"COM1"_s);
+        line.answers.insert("{whois}", "{iam}");
+        const TestPorts ports({line.info()});
+        PlainDevice device;
+        device.start();
+        QTRY_VERIFY(device.isConnected());
+        QSerialPort *port = heldPort(line);
+        device.take();
+        port->clearError();
+        QCoreApplication::processEvents();
+        QVERIFY(device.isConnected());
+        // Harmless by itself: a wait that times out.
+        QVERIFY(!port->waitForReadyRead(1));
+        QTRY_VERIFY(!device.isConnected());
+        QCOMPARE(device.take(), QStringList({u"changed off"_s, u"disconnected"_s}));
+    }
+
+    void portThatDidNotOpenIsTriedInTheNextRound()
+    {
+        TestLine line(u"COM1"_s);
+        QSerialPort other(line.info().location);
+        QVERIFY(other.open(QIODevice::ReadWrite));
+        const TestPorts ports({line.info()});
+        PlainDevice device;
+        device.start();
+        // Not looked up here, which would claim it: the round after claims, opens and greets it.
+        other.close();
+        device.connectionTimerHandler();
+        QVERIFY(line.waitFor("{whois}"));
+        line.terminal.write("{iam}");
+        QTRY_VERIFY(device.isConnected());
     }
 
     void unplugWhileSearchingClosesThePortAndNothingElse()

@@ -6,18 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QStringList namesOf(const QList<PortInfo> &ports)
-{
-    QStringList names;
-    for (const PortInfo &port : ports)
-        names.append(port.name);
-    return names;
-}
-
-} // namespace
-
 class TestSerialPortManager : public QObject
 {
     Q_OBJECT
@@ -80,7 +68,7 @@ private slots:
         QTemporaryDir folder;
         TestLine line(u"unused"_s);
         const QString link = folder.filePath(u"tty one"_s);
-        const QString system = QString::fromLatin1(line.terminal.devicePath().toLatin1());
+        const QString system = line.terminal.devicePath();
         QVERIFY(QFile::link(system, link));
         qputenv("SPINBAR_SERIAL_PORTS",
                 (link + u";relative;/no/such/port;;"_s + system + u';' + link).toLocal8Bit());
@@ -90,7 +78,6 @@ private slots:
         QCOMPARE(ports.first(systemPorts.size()), systemPorts);
         const QList<PortInfo> expected{{link, link, u"Additional port"_s, {}},
                                        {system.mid(5), system, u"Additional port"_s, {}}};
-        QCOMPARE(namesOf(ports.sliced(systemPorts.size())), namesOf(expected));
         QVERIFY(ports.sliced(systemPorts.size()) == expected);
     }
 

@@ -53,6 +53,7 @@ private slots:
         row("line ends and blanks", "  0\t1  off  \r\n3 power off\r\n", {u"0 lane 0 0"_s, u"3000 power 0"_s});
         row("link", "2 link off\n3 link off 0.5", {u"2000 link -1"_s, u"3000 link 500"_s});
         row("raw message", "4 send  S,1, 2  #x", {u"4000 send S,1, 2"_s});
+        row("longest line", "4 send " + QByteArray(992, 'x') + '\n', {u"4000 send "_s + QString(992, u'x')});
         row("by time, then by line", "5 1 on\n1 2 on\n5 1 off",
             {u"1000 lane 1 1"_s, u"5000 lane 0 1"_s, u"5000 lane 0 0"_s});
     }
@@ -100,7 +101,7 @@ private slots:
             row(line);
         row(QByteArray("1 send a\0b", 10), u"1 send a?b"_s);
         row("1 send \xff\xfe", u"1 send ??"_s);
-        row("1 send " + QByteArray(100'000, 'x'), u"1 send "_s + QString(193, u'x'));
+        row("1 send " + QByteArray(993, 'x'), u"1 send "_s + QString(193, u'x'));
     }
 
     void badLinesAreToldWithTheirNumber()

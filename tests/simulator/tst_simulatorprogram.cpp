@@ -60,6 +60,7 @@ private slots:
         row({u"--scenario"_s, u"/nowhere.txt"_s}, u"/nowhere.txt: "_s);
         row({u"--scenario"_s, u"/dev/zero"_s}, u"/dev/zero:1: "_s);
         row({u"--replay"_s, u"/nowhere.log"_s}, u"/nowhere.log: "_s);
+        row({u"--replay"_s, m_folder.path()}, m_folder.path() + u": "_s);
         row({u"--replay"_s, u"a"_s, u"--scenario"_s, u"b"_s}, u"exclude"_s);
         row({u"--rate"_s, u"0.99"_s}, u"--rate"_s);
         row({u"--rate"_s, u"1001"_s}, u"--rate"_s);
