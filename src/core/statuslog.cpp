@@ -3,6 +3,8 @@
 #include "core/recordslog.h"
 #include "core/statusline.h"
 
+#include "framework/common/fileutilities.h"
+
 #include <QByteArray>
 #include <QFileInfo>
 
@@ -90,7 +92,7 @@ void StatusLog::Writer::append(const QString &message)
 {
     QByteArray line = message.toUtf8();
     line.replace(',', ';').append("\r\n");
-    const bool written = m_file.write(line) == line.size();
+    const bool written = FileUtilities::writeAll(m_file, line);
     if (m_failing == written) {
         m_failing = !written;
         if (m_failing)

@@ -103,7 +103,8 @@ private slots:
                                     + recordArguments() + QStringList{u"--duration"_s, u"3"_s});
         QVERIFY(recorder.waitForFinished(StartTimeoutMs));
         QCOMPARE(recorder.exitCode(), FailedCode);
-        QVERIFY(recorder.readAllStandardError().contains(recordedFolder().toUtf8() + "status.log': "));
+        QVERIFY(recorder.readAllStandardError().contains(recordedFolder().toUtf8()
+                                                         + "status.log': File too large"));
         const QByteArray log = readFile(recordedFolder() + "status.log"_L1);
         QVERIFY(log.size() > 900 && log.size() <= 1024 && log.endsWith("\r\n"));
         // The rows of the last save that found room.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -66,7 +67,7 @@ bool makeRoom(QFile &file, qint64 bytes, QString &error)
     if (before == 0 || bytes <= before)
         return true;
     const QByteArray blanks(bytes - before, ' ');
-    if (file.seek(before) && file.write(blanks) == blanks.size() && file.seek(0))
+    if (file.seek(before) && FileUtilities::writeAll(file, blanks) && file.seek(0))
         return true;
     error = file.errorString();
     file.resize(before);
@@ -154,6 +155,15 @@ QString FileUtilities::base64_decodeFromPercentEncoding(const QString &text)
     return QString::fromUtf8(base64_decode_as_bytes(plain));
 }
 
+bool FileUtilities::writeAll(QFile &file, const QByteArray &bytes)
+{
+    // A write that stops halfway is no error yet: only the try with the rest tells the reason.
+    qint64 done = 0;
+    for (qint64 got = 1; done < bytes.size() && got > 0; done += std::max<qint64>(got, 0))
+        got = file.write(bytes.constData() + done, bytes.size() - done);
+    return done == bytes.size();
+}
+
 FileUtilities::WriteResult FileUtilities::overwrite(const QString &path, const QByteArray &text,
                                                     QString *error)
 {
@@ -163,7 +173,7 @@ FileUtilities::WriteResult FileUtilities::overwrite(const QString &path, const Q
                         || file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     QString reason;
     const QByteArray padded = text.leftJustified(std::min(file.size(), MaxCoveredBytes), ' ');
-    const bool whole = opened && makeRoom(file, padded.size(), reason) && file.write(padded) == padded.size()
+    const bool whole = opened && makeRoom(file, padded.size(), reason) && writeAll(file, padded)
                        && (file.size() == text.size() || file.resize(text.size()));
     if (!whole && error)
         *error = reason.isEmpty() ? file.errorString() : reason;

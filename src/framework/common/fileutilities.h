@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+class QFile;
+
 /// Paths, folders and listings.
 namespace FileUtilities {
 
@@ -31,6 +33,9 @@ QByteArray base64_decode_as_bytes(const QString &text);
 
 /// Undoes the percent escapes of "+", "=", "/" and "," and then decodes.
 QString base64_decodeFromPercentEncoding(const QString &text);
+
+/// With one write call as long as there is room. False, with the file's error set, if not all went in.
+bool writeAll(QFile &file, const QByteArray &bytes);
 
 enum class WriteResult { Whole, InPart, NotOpened };
 
