@@ -35,6 +35,7 @@ GridControl::GridControl(CurlySpinbar *device, QWidget *parent)
     m_spinBox->setAccessibleName(name);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addLayout(
         ControlRow::create(IconSpacing, {m_offIcon, m_onIcon, new QLabel(name), nullptr, m_offButton}));
     layout->addLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));

@@ -9,6 +9,7 @@
 #include "framework/common/widgets/iconwidget.h"
 #include "framework/settings/widgets/propertylistcontrol.h"
 #include "scripts/widgets/speedscriptselectandrunwidget.h"
+#include "scripts/widgets/speedscriptviewer.h"
 
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
@@ -30,6 +31,11 @@ constexpr int SliderMaximum = 4744;
 constexpr int SliderPerRotation = 1000;
 constexpr int IconSpacing = 4;
 constexpr int SliderSpacing = 2;
+constexpr int TabMargin = 8;
+constexpr int Filling = 100;
+// With the smaller height everything has its place in the smallest window.
+constexpr int LeastScriptGraphHeight = 80;
+constexpr int ScriptGraphHeight = 140;
 
 int decimalsOf(CurlySpinbar::OutputSpeedDimension dimension)
 {
@@ -52,11 +58,13 @@ SpeedControl::SpeedControl(SpinbarModel &model, QWidget *parent)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addLayout(createTitleRow());
     m_tabs = new QTabWidget;
-    layout->addWidget(m_tabs);
+    layout->addWidget(m_tabs, Filling);
     createManualWidgets();
     m_runner = new SpeedScriptSelectAndRunWidget(model, nullptr);
+    m_runner->findChild<SpeedScriptViewer *>()->setMinimumHeight(LeastScriptGraphHeight);
     m_tabs->addTab(m_runner, translated(QT_TRANSLATE_NOOP("SpinbarController", "Script")));
     connectWidgets();
 }
@@ -91,8 +99,12 @@ void SpeedControl::createManualWidgets()
     m_spinBox = new QDoubleSpinBox;
     m_spinBox->setStyleSheet(u"font-size: 14px"_s);
     m_spinBox->setAccessibleName(name);
+    // The tab is as high as that of the scripts.
     auto *page = new QWidget;
-    page->setLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(TabMargin, TabMargin, TabMargin, TabMargin);
+    layout->addLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));
+    layout->addStretch();
     m_tabs->addTab(page, translated(QT_TRANSLATE_NOOP("SpinbarController", "Manual control")));
 }
 
@@ -158,4 +170,9 @@ void SpeedControl::updateDimension()
 void SpeedControl::passDimensionToScript()
 {
     m_runner->setDimension(m_dimension, m_settings->getRodentMode());
+}
+
+QSize SpeedControl::sizeHint() const
+{
+    return QWidget::sizeHint() + QSize(0, ScriptGraphHeight - LeastScriptGraphHeight);
 }

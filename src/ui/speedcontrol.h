@@ -31,6 +31,8 @@ public:
     /// Takes the unit from the settings.
     void updateDimension();
 
+    QSize sizeHint() const override;
+
 private:
     void createManualWidgets();
     QLayout *createTitleRow();

@@ -119,6 +119,8 @@ QWidget *SpinbarController::createPanel()
     StyleHelper::Instance()->setStyledBackground(panel, u"--n-idle-bg"_s, Qt::white);
     auto *layout = new QVBoxLayout(panel);
     layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
+    // The gaps stand below; with more of them the smallest window would not hold everything.
+    layout->setSpacing(0);
     layout->addWidget(m_connectionBar);
     layout->addSpacing(RodentGap);
     layout->addWidget(m_rodentBox);

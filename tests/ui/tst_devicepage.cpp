@@ -9,6 +9,7 @@
 #include "core/spinbarrecord.h"
 #include "detection/spinbardetection.h"
 #include "framework/common/widgets/iconwidget.h"
+#include "framework/common/widgets/stylehelper.h"
 #include "operatorbench.h"
 #include "scripts/widgets/speedscriptselectandrunwidget.h"
 
@@ -311,6 +312,25 @@ private slots:
         slider.setWheelIgnored(true);
         QApplication::sendEvent(&slider, &wheel);
         QVERIFY(!wheel.isAccepted());
+    }
+
+    void everythingHasItsPlaceInTheSmallestWindow()
+    {
+        StyleHelper::Instance()->addStyleFile(u":/themes/nt.theme.css"_s);
+        StyleHelper::Instance()->addThemeFile(u":/themes/light.css"_s, u"light"_s);
+        StyleHelper::Instance()->selectTheme(u"light"_s);
+        OperatorBench bench;
+        bench.window->resize(bench.window->minimumSize());
+        QVERIFY(bench.plugIn());
+        QTRY_VERIFY(SpinbarController::instance()->isEnabled());
+        auto *control = SpinbarController::instance()->findChild<SpeedControl *>();
+        control->findChild<QTabWidget *>()->setCurrentIndex(1);
+        QTest::qWait(0);
+        QCOMPARE(bench.window->size(), QSize(900, 600));
+        QVERIFY(control->height() >= control->minimumSizeHint().height());
+        const QWidget *record = bench.button(u"Record"_s);
+        QVERIFY(control->geometry().bottom() < record->geometry().top());
+        QVERIFY(record->height() >= 40);
     }
 
     void everyControlHasAName()
