@@ -44,11 +44,33 @@ void CurlyDevice::start()
     m_parser = new CurlyMessageParser(this);
     if (usesTextProtocol()) {
         m_permanentConnections << connect(m_parser, &CurlyMessageParser::messageReceived, this,
-                                          &CurlyDevice::onTextMessage, Qt::QueuedConnection);
+                                          &CurlyDevice::queueMessage);
     } else {
         m_permanentConnections << connect(m_parser, &CurlyMessageParser::messageBytesReceived, this,
                                           &CurlyDevice::onByteMessage, Qt::QueuedConnection);
     }
+}
+
+void CurlyDevice::queueMessage(const QString &message)
+{
+    m_inbox.enqueue(message);
+    if (m_inbox.size() == 1)
+        postNextMessage();
+}
+
+void CurlyDevice::postNextMessage()
+{
+    QMetaObject::invokeMethod(this, &CurlyDevice::handleNextMessage, Qt::QueuedConnection);
+}
+
+// The next message waits behind the queued signals of this one: their listeners ask the device for its
+// counters and clock, and would otherwise find those of the last message of a read.
+void CurlyDevice::handleNextMessage()
+{
+    onTextMessage(m_inbox.head());
+    m_inbox.dequeue();
+    if (!m_inbox.isEmpty())
+        postNextMessage();
 }
 
 void CurlyDevice::setEnabled(bool enabled)

@@ -5,6 +5,7 @@
 #include "framework/common/connectionhelper.h"
 
 #include <QObject>
+#include <QQueue>
 #include <QTimer>
 
 class CurlyMessageParser;
@@ -81,9 +82,14 @@ private:
     void checkLink();
     void takePort(const NamedPort &answered);
     void readPort(QSerialPort *port);
+    void queueMessage(const QString &message);
+    void postNextMessage();
+    void handleNextMessage();
     void handleError(QSerialPort *port, QSerialPort::SerialPortError error);
 
     CurlyMessageParser *m_parser = nullptr;
+    /// Messages on their way to the subclass, each in a pass of the event loop of its own.
+    QQueue<QString> m_inbox;
     bool m_connected = false;
     QString m_version;
     QString m_serialNumber;

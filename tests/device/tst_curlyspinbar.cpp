@@ -145,6 +145,20 @@ private slots:
         SpinbarDetection::setTrailSeconds(3);
     }
 
+    void messagesOfOneReadKeepTheirOwnClock()
+    {
+        Bench bench;
+        QVERIFY(bench.connect());
+        const SpinbarDetection *lane = bench.spinbar->detectors().constFirst();
+        QStringList samples;
+        connect(lane, &SpinbarDetection::calcsChanged, this, [&samples, lane] {
+            samples.append(u"%1@%2"_s.arg(lane->lastValue()).arg(lane->lastClock()));
+        });
+        bench.line.terminal.write(
+            "{S,1,0,28,28,28,28,0,3E8}{S,1,0,14,28,28,28,0,4B0}{S,1,0,15,28,28,28,0,578}");
+        QTRY_COMPARE(samples, QStringList({u"40@1000"_s, u"20@1200"_s, u"21@1400"_s}));
+    }
+
     void lostInstrumentIsFoundOnItsPortOnly()
     {
         Bench bench;
