@@ -27,6 +27,257 @@
     </message>
 </context>
 <context>
+    <name>Cli</name>
+    <message>
+        <source>&apos;%1&apos; names no format, use --format</source>
+        <translation>&apos;%1&apos; names no format, use --format</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: cannot be read</source>
+        <translation>&apos;%1&apos;: cannot be read</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: cannot be written</source>
+        <translation>&apos;%1&apos;: cannot be written</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such experiment</source>
+        <translation>&apos;%1&apos;: no such experiment</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such file</source>
+        <translation>&apos;%1&apos;: no such file</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such script</source>
+        <translation>&apos;%1&apos;: no such script</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: the folder cannot be created</source>
+        <translation>&apos;%1&apos;: the folder cannot be created</translation>
+    </message>
+    <message>
+        <source>&apos;export&apos; needs --output</source>
+        <translation>&apos;export&apos; needs --output</translation>
+    </message>
+    <message>
+        <source>&apos;export&apos; needs an experiment</source>
+        <translation>&apos;export&apos; needs an experiment</translation>
+    </message>
+    <message>
+        <source>&apos;list&apos; takes no further words</source>
+        <translation>&apos;list&apos; takes no further words</translation>
+    </message>
+    <message>
+        <source>&apos;ports&apos; takes no further words</source>
+        <translation>&apos;ports&apos; takes no further words</translation>
+    </message>
+    <message>
+        <source>&apos;record&apos; takes options only</source>
+        <translation>&apos;record&apos; takes options only</translation>
+    </message>
+    <message>
+        <source>&apos;replay&apos; takes one status log</source>
+        <translation>&apos;replay&apos; takes one status log</translation>
+    </message>
+    <message>
+        <source>&apos;script&apos; takes one file</source>
+        <translation>&apos;script&apos; takes one file</translation>
+    </message>
+    <message>
+        <source>&apos;table&apos; needs an experiment</source>
+        <translation>&apos;table&apos; needs an experiment</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from %2 to %3</source>
+        <translation>--%1 takes a number from %2 to %3</translation>
+    </message>
+    <message>
+        <source>--%1 takes one of %2</source>
+        <translation>--%1 takes one of %2</translation>
+    </message>
+    <message>
+        <source>--data needs a folder</source>
+        <translation>--data needs a folder</translation>
+    </message>
+    <message>
+        <source>--script and --speed exclude each other</source>
+        <translation>--script and --speed exclude each other</translation>
+    </message>
+    <message>
+        <source>--script needs a title</source>
+        <translation>--script needs a title</translation>
+    </message>
+    <message>
+        <source>--speed and --unit go together</source>
+        <translation>--speed and --unit go together</translation>
+    </message>
+    <message>
+        <source>--speed is above what the drum can do</source>
+        <translation>--speed is above what the drum can do</translation>
+    </message>
+    <message>
+        <source>--thresholds takes %1 numbers from %2 to %3, separated by &apos;;&apos;</source>
+        <translation>--thresholds takes %1 numbers from %2 to %3, separated by &apos;;&apos;</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connected to %1</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Duration %1 s, %2 loops</source>
+        <translation>Duration %1 s, %2 loops</translation>
+    </message>
+    <message>
+        <source>Duration %1 s, endless</source>
+        <translation>Duration %1 s, endless</translation>
+    </message>
+    <message>
+        <source>End, ms</source>
+        <translation>End, ms</translation>
+    </message>
+    <message>
+        <source>Firmware version %1</source>
+        <translation>Firmware version %1</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation>Lane</translation>
+    </message>
+    <message>
+        <source>Lane %1: off the drum after %2 s</source>
+        <translation>Lane %1: off the drum after %2 s</translation>
+    </message>
+    <message>
+        <source>Lane %1: on the drum</source>
+        <translation>Lane %1: on the drum</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Location</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Manufacturer</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Recording to %1</translation>
+    </message>
+    <message>
+        <source>Rodent</source>
+        <translation>Rodent</translation>
+    </message>
+    <message>
+        <source>Rotations</source>
+        <translation>Rotations</translation>
+    </message>
+    <message>
+        <source>Serial number %1</source>
+        <translation>Serial number %1</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Start, ms</source>
+        <translation>Start, ms</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>The link to the instrument was lost</source>
+        <translation>The link to the instrument was lost</translation>
+    </message>
+    <message>
+        <source>The sensors are not calibrated, default thresholds are in force</source>
+        <translation>The sensors are not calibrated, default thresholds are in force</translation>
+    </message>
+    <message>
+        <source>Time, s</source>
+        <translation>Time, s</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Tried</translation>
+    </message>
+    <message>
+        <source>interrupted before a recording began</source>
+        <translation>interrupted before a recording began</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>mouse</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>no command given, see --help</source>
+        <translation>no command given, see --help</translation>
+    </message>
+    <message>
+        <source>no instrument answered in time</source>
+        <translation>no instrument answered in time</translation>
+    </message>
+    <message>
+        <source>no speed script, line %1: %2</source>
+        <translation>no speed script, line %1: %2</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>no such file</translation>
+    </message>
+    <message>
+        <source>rat</source>
+        <translation>rat</translation>
+    </message>
+    <message>
+        <source>standard output: cannot be written</source>
+        <translation>standard output: cannot be written</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;, see --help</source>
+        <translation>unknown command &apos;%1&apos;, see --help</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;</source>
+        <translation>unknown language &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+</context>
+<context>
     <name>ColorThemeEnum</name>
     <message>
         <source>Dark</source>

@@ -27,6 +27,257 @@
     </message>
 </context>
 <context>
+    <name>Cli</name>
+    <message>
+        <source>&apos;%1&apos; names no format, use --format</source>
+        <translation>по имени «%1» формат не определить, укажите --format</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: cannot be read</source>
+        <translation>«%1»: не удаётся прочитать</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: cannot be written</source>
+        <translation>«%1»: не удаётся записать</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such experiment</source>
+        <translation>«%1»: нет такого эксперимента</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such file</source>
+        <translation>«%1»: нет такого файла</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: no such script</source>
+        <translation>«%1»: нет такого сценария</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: the folder cannot be created</source>
+        <translation>«%1»: не удаётся создать папку</translation>
+    </message>
+    <message>
+        <source>&apos;export&apos; needs --output</source>
+        <translation>для export нужен --output</translation>
+    </message>
+    <message>
+        <source>&apos;export&apos; needs an experiment</source>
+        <translation>для export нужен эксперимент</translation>
+    </message>
+    <message>
+        <source>&apos;list&apos; takes no further words</source>
+        <translation>list не принимает других слов</translation>
+    </message>
+    <message>
+        <source>&apos;ports&apos; takes no further words</source>
+        <translation>ports не принимает других слов</translation>
+    </message>
+    <message>
+        <source>&apos;record&apos; takes options only</source>
+        <translation>record принимает только параметры</translation>
+    </message>
+    <message>
+        <source>&apos;replay&apos; takes one status log</source>
+        <translation>replay принимает один журнал состояния</translation>
+    </message>
+    <message>
+        <source>&apos;script&apos; takes one file</source>
+        <translation>script принимает один файл</translation>
+    </message>
+    <message>
+        <source>&apos;table&apos; needs an experiment</source>
+        <translation>для table нужен эксперимент</translation>
+    </message>
+    <message>
+        <source>--%1 takes a number from %2 to %3</source>
+        <translation>--%1 принимает число от %2 до %3</translation>
+    </message>
+    <message>
+        <source>--%1 takes one of %2</source>
+        <translation>--%1 принимает одно из: %2</translation>
+    </message>
+    <message>
+        <source>--data needs a folder</source>
+        <translation>для --data нужна папка</translation>
+    </message>
+    <message>
+        <source>--script and --speed exclude each other</source>
+        <translation>--script и --speed исключают друг друга</translation>
+    </message>
+    <message>
+        <source>--script needs a title</source>
+        <translation>для --script нужно название</translation>
+    </message>
+    <message>
+        <source>--speed and --unit go together</source>
+        <translation>--speed и --unit указываются вместе</translation>
+    </message>
+    <message>
+        <source>--speed is above what the drum can do</source>
+        <translation>--speed больше возможного для барабана</translation>
+    </message>
+    <message>
+        <source>--thresholds takes %1 numbers from %2 to %3, separated by &apos;;&apos;</source>
+        <translation>--thresholds принимает %1 чисел от %2 до %3 через «;»</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Комментарий</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Подключено к %1</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Duration %1 s, %2 loops</source>
+        <translation>Длительность %1 с, циклов: %2</translation>
+    </message>
+    <message>
+        <source>Duration %1 s, endless</source>
+        <translation>Длительность %1 с, бесконечно</translation>
+    </message>
+    <message>
+        <source>End, ms</source>
+        <translation>Конец, мс</translation>
+    </message>
+    <message>
+        <source>Firmware version %1</source>
+        <translation>Версия прошивки %1</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation>Дорожка</translation>
+    </message>
+    <message>
+        <source>Lane %1: off the drum after %2 s</source>
+        <translation>Дорожка %1: сошло с барабана через %2 с</translation>
+    </message>
+    <message>
+        <source>Lane %1: on the drum</source>
+        <translation>Дорожка %1: на барабане</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Путь</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Производитель</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>Запись в %1</translation>
+    </message>
+    <message>
+        <source>Rodent</source>
+        <translation>Грызун</translation>
+    </message>
+    <message>
+        <source>Rotations</source>
+        <translation>Обороты</translation>
+    </message>
+    <message>
+        <source>Serial number %1</source>
+        <translation>Серийный номер %1</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Start, ms</source>
+        <translation>Начало, мс</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Остановлено</translation>
+    </message>
+    <message>
+        <source>The link to the instrument was lost</source>
+        <translation>Связь с прибором потеряна</translation>
+    </message>
+    <message>
+        <source>The sensors are not calibrated, default thresholds are in force</source>
+        <translation>Датчики не откалиброваны, действуют пороги по умолчанию</translation>
+    </message>
+    <message>
+        <source>Time, s</source>
+        <translation>Время, с</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Tried</source>
+        <translation>Проверяется</translation>
+    </message>
+    <message>
+        <source>interrupted before a recording began</source>
+        <translation>прервано до начала записи</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>мышь</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>no command given, see --help</source>
+        <translation>команда не указана, см. --help</translation>
+    </message>
+    <message>
+        <source>no instrument answered in time</source>
+        <translation>прибор не ответил вовремя</translation>
+    </message>
+    <message>
+        <source>no speed script, line %1: %2</source>
+        <translation>не сценарий скорости, строка %1: %2</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>нет такого файла</translation>
+    </message>
+    <message>
+        <source>rat</source>
+        <translation>крыса</translation>
+    </message>
+    <message>
+        <source>standard output: cannot be written</source>
+        <translation>стандартный вывод: не удаётся записать</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;, see --help</source>
+        <translation>неизвестная команда «%1», см. --help</translation>
+    </message>
+    <message>
+        <source>unknown language &apos;%1&apos;</source>
+        <translation>неизвестный язык «%1»</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>да</translation>
+    </message>
+</context>
+<context>
     <name>ColorThemeEnum</name>
     <message>
         <source>Dark</source>

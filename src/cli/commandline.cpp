@@ -1,4 +1,5 @@
 #include "cli/commandline.h"
+#include "cli/clitext.h"
 
 #include "cli/command.h"
 #include "framework/common/fileutilities.h"
@@ -38,12 +39,12 @@ QString helpText(const QCommandLineParser &parser)
 ExitCode runCommand(CommandContext &context, const QStringList &words)
 {
     if (words.isEmpty())
-        return wrongUsage(context, u"no command given, see --help"_s);
+        return wrongUsage(context, Cli::tr("no command given, see --help"));
     for (const Command &command : commands) {
         if (words.first() == QLatin1StringView(command.name))
             return command.run(context, words.sliced(1));
     }
-    return wrongUsage(context, u"unknown command '%1', see --help"_s.arg(words.first()));
+    return wrongUsage(context, Cli::tr("unknown command '%1', see --help").arg(words.first()));
 }
 
 } // namespace
@@ -73,10 +74,10 @@ ExitCode runCommandLine(const QStringList &arguments, CommandContext &context)
         return ExitCode::Done;
     }
     if (!LanguageContext::hasLanguage(parser.value(language)))
-        return wrongUsage(context, u"unknown language '%1'"_s.arg(parser.value(language)));
+        return wrongUsage(context, Cli::tr("unknown language '%1'").arg(parser.value(language)));
     LanguageContext::setLanguage(parser.value(language));
     if (parser.isSet(data) && parser.value(data).isEmpty())
-        return wrongUsage(context, u"--data needs a folder"_s);
+        return wrongUsage(context, Cli::tr("--data needs a folder"));
     const QString folder = parser.isSet(data)
                                ? parser.value(data)
                                : QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);

@@ -1,4 +1,5 @@
 #include "cli/experimentarguments.h"
+#include "cli/clitext.h"
 
 #include "core/experimentfile.h"
 #include "framework/common/fileutilities.h"
@@ -42,11 +43,11 @@ Records loadExperiments(CommandContext &context, const QStringList &words)
     for (const QString &word : words) {
         folders.append(experimentFolder(context, word));
         if (folders.constLast().isEmpty()) {
-            failed(context, u"'%1': no such experiment"_s.arg(word));
+            failed(context, Cli::tr("'%1': no such experiment").arg(word));
             return {};
         }
         if (!QFileInfo(ExperimentFile::pathIn(folders.constLast())).isReadable()) {
-            failed(context, u"'%1': cannot be read"_s.arg(word));
+            failed(context, Cli::tr("'%1': cannot be read").arg(word));
             return {};
         }
     }

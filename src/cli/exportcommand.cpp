@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/experimentarguments.h"
 #include "cli/optionreader.h"
@@ -34,17 +35,17 @@ ExitCode runExport(CommandContext &context, const QStringList &arguments)
     const auto asked = reader.choice(u"format"_s, formatNames);
     const qsizetype format = asked.value_or(formatNames.indexOf(QFileInfo(path).suffix().toLower()));
     if (path.isEmpty())
-        reader.fault(u"'export' needs --output"_s);
+        reader.fault(Cli::tr("'export' needs --output"));
     if (format < 0)
-        reader.fault(u"'%1' names no format, use --format"_s.arg(path));
+        reader.fault(Cli::tr("'%1' names no format, use --format").arg(path));
     if (parser.positionalArguments().isEmpty())
-        reader.fault(u"'export' needs an experiment"_s);
+        reader.fault(Cli::tr("'export' needs an experiment"));
     if (!reader.error().isEmpty())
         return wrongUsage(context, reader.error());
     const Records records = loadExperiments(context, parser.positionalArguments());
     if (records.empty())
         return ExitCode::Failed;
     if (!ExperimentExport::write(borrowed(records), path, formats.at(std::size_t(format))))
-        return failed(context, u"'%1': cannot be written"_s.arg(path));
+        return failed(context, Cli::tr("'%1': cannot be written").arg(path));
     return ExitCode::Done;
 }

@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/tableoutput.h"
 #include "core/experimentlibrary.h"
@@ -33,11 +34,13 @@ QJsonArray toJson(const QList<ExperimentEntry> &entries)
 
 Table toTable(const QList<ExperimentEntry> &entries)
 {
-    Table table{{u"Name"_s, u"Date"_s, u"Rodent"_s, u"Title"_s, u"Comment"_s, u"N"_s}};
+    Table table{{Cli::tr("Name"), Cli::tr("Date"), Cli::tr("Rodent"), Cli::tr("Title"), Cli::tr("Comment"),
+                 Cli::tr("N")}};
     for (const ExperimentEntry &entry : entries) {
         const QDateTime when = QDateTime::fromMSecsSinceEpoch(entry.timestamp);
-        table.append({entry.name, when.toString(u"yyyy-MM-dd hh:mm"_s), entry.rat ? u"rat"_s : u"mouse"_s,
-                      entry.title, entry.comment, entry.items});
+        table.append({entry.name, when.toString(u"yyyy-MM-dd hh:mm"_s),
+                      entry.rat ? Cli::tr("rat") : Cli::tr("mouse"), entry.title, entry.comment,
+                      entry.items});
     }
     return table;
 }
@@ -53,7 +56,7 @@ ExitCode runList(CommandContext &context, const QStringList &arguments)
     if (const auto ended = parseArguments(parser, context, u"list"_s, arguments))
         return *ended;
     if (!parser.positionalArguments().isEmpty())
-        return wrongUsage(context, u"'list' takes no further words"_s);
+        return wrongUsage(context, Cli::tr("'list' takes no further words"));
     const QList<ExperimentEntry> entries = ExperimentLibrary(context.recordsFolder()).list();
     if (parser.isSet(json))
         printJson(context.out, toJson(entries));

@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/commandline.h"
 
@@ -20,6 +21,6 @@ int main(int argc, char **argv)
     ExitCode code = runCommandLine(QCoreApplication::arguments(), context);
     out.flush();
     if (code == ExitCode::Done && out.status() != QTextStream::Ok)
-        code = failed(context, u"standard output: cannot be written"_s);
+        code = failed(context, Cli::tr("standard output: cannot be written"));
     return static_cast<int>(code);
 }

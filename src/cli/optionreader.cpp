@@ -1,4 +1,5 @@
 #include "cli/optionreader.h"
+#include "cli/clitext.h"
 
 #include <cmath>
 
@@ -22,7 +23,7 @@ std::optional<double> OptionReader::number(const QString &name, double lowest, d
     const double value = m_parser.value(name).toDouble(&ok);
     if (ok && std::isfinite(value) && value >= lowest && value <= highest)
         return value;
-    fault(u"--%1 takes a number from %2 to %3"_s.arg(name).arg(lowest).arg(highest));
+    fault(Cli::tr("--%1 takes a number from %2 to %3").arg(name).arg(lowest).arg(highest));
     return std::nullopt;
 }
 
@@ -41,7 +42,7 @@ std::optional<qsizetype> OptionReader::choice(const QString &name, const QString
     const qsizetype index = choices.indexOf(m_parser.value(name));
     if (index >= 0)
         return index;
-    fault(u"--%1 takes one of %2"_s.arg(name, choices.join(", "_L1)));
+    fault(Cli::tr("--%1 takes one of %2").arg(name, choices.join(", "_L1)));
     return std::nullopt;
 }
 

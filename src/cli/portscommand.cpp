@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/tableoutput.h"
 #include "device/serialports.h"
@@ -14,10 +15,11 @@ constexpr bool TextProtocol = true;
 
 Table portTable(const QList<PortInfo> &ports)
 {
-    Table table{{u"Name"_s, u"Location"_s, u"Description"_s, u"Manufacturer"_s, u"Tried"_s}};
+    Table table{{Cli::tr("Name"), Cli::tr("Location"), Cli::tr("Description"), Cli::tr("Manufacturer"),
+                 Cli::tr("Tried")}};
     for (const PortInfo &port : ports) {
         table.append({port.name, port.location, port.description, port.manufacturer,
-                      SerialPorts::isCandidate(port, TextProtocol) ? u"yes"_s : u"no"_s});
+                      SerialPorts::isCandidate(port, TextProtocol) ? Cli::tr("yes") : Cli::tr("no")});
     }
     return table;
 }
@@ -46,7 +48,7 @@ ExitCode runPorts(CommandContext &context, const QStringList &arguments)
     if (const auto ended = parseArguments(parser, context, u"ports"_s, arguments))
         return *ended;
     if (!parser.positionalArguments().isEmpty())
-        return wrongUsage(context, u"'ports' takes no further words"_s);
+        return wrongUsage(context, Cli::tr("'ports' takes no further words"));
     const QList<PortInfo> ports = SerialPorts::listed();
     if (parser.isSet(json))
         printJson(context.out, portsJson(ports));

@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/recordsession.h"
 #include "cli/scriptfile.h"
@@ -28,20 +29,20 @@ ExitCode record(CommandContext &context, const RecordOptions &options)
         const ScriptLibrary library(context.scriptsFolder());
         script = library.load(options.scriptTitle);
         if (!script)
-            return failed(context, u"'%1': no such script"_s.arg(options.scriptTitle));
+            return failed(context, Cli::tr("'%1': no such script").arg(options.scriptTitle));
         const QString path = library.findFile(options.scriptTitle);
         if (const QString fault = scriptFileFault(path); !fault.isEmpty())
             return failed(context, u"'%1': %2"_s.arg(path, fault));
     }
     SpinbarModel model(nullptr, context.dataFolder);
     if (!QFileInfo(model.recordsFolder()).isDir())
-        return failed(context, u"'%1': the folder cannot be created"_s.arg(model.recordsFolder()));
+        return failed(context, Cli::tr("'%1': the folder cannot be created").arg(model.recordsFolder()));
     const auto rodent = options.rodent.value_or(model.settings()->getRodentMode());
     if (options.motorSpeed(rodent) > SpeedConversion::MaxMotorSpeed + SpeedTolerance)
-        return wrongUsage(context, u"--speed is above what the drum can do"_s);
+        return wrongUsage(context, Cli::tr("--speed is above what the drum can do"));
     model.device()->setRodentMode(rodent);
     if (!SensorCalibration::apply(*model.settings(), *model.device()))
-        context.err << "The sensors are not calibrated, default thresholds are in force" << Qt::endl;
+        context.err << Cli::tr("The sensors are not calibrated, default thresholds are in force") << Qt::endl;
 
     RecordReport report(context, options.json);
     RecordSession session(model, options, context, report);
@@ -68,7 +69,7 @@ ExitCode runRecord(CommandContext &context, const QStringList &arguments)
     if (const auto ended = parseArguments(parser, context, u"record"_s, arguments))
         return *ended;
     if (!parser.positionalArguments().isEmpty())
-        return wrongUsage(context, u"'record' takes options only"_s);
+        return wrongUsage(context, Cli::tr("'record' takes options only"));
     QString error;
     const std::optional<RecordOptions> options = RecordOptions::read(parser, error);
     return options ? record(context, *options) : wrongUsage(context, error);

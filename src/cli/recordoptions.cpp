@@ -1,4 +1,5 @@
 #include "cli/recordoptions.h"
+#include "cli/clitext.h"
 
 #include "cli/optionreader.h"
 
@@ -48,11 +49,11 @@ std::optional<RecordOptions> RecordOptions::read(const QCommandLineParser &parse
     if (const auto unit = reader.choice(u"unit"_s, unitNames))
         options.unit = units.at(std::size_t(*unit));
     if (parser.isSet(u"speed"_s) != parser.isSet(u"unit"_s))
-        reader.fault(u"--speed and --unit go together"_s);
+        reader.fault(Cli::tr("--speed and --unit go together"));
     if (parser.isSet(u"script"_s) && options.speed)
-        reader.fault(u"--script and --speed exclude each other"_s);
+        reader.fault(Cli::tr("--script and --speed exclude each other"));
     if (parser.isSet(u"script"_s) && parser.value(u"script"_s).isEmpty())
-        reader.fault(u"--script needs a title"_s);
+        reader.fault(Cli::tr("--script needs a title"));
     options.scriptTitle = parser.value(u"script"_s);
     options.title = parser.value(u"title"_s);
     options.comment = parser.value(u"comment"_s);

@@ -1,4 +1,5 @@
 #include "cli/recordreport.h"
+#include "cli/clitext.h"
 
 #include "cli/command.h"
 #include "core/boundedmath.h"
@@ -23,31 +24,31 @@ RecordReport::RecordReport(CommandContext &context, bool json)
 
 void RecordReport::connected(const QString &port)
 {
-    event(u"connected"_s, {{u"port"_s, port}}, u"Connected to "_s + port);
+    event(u"connected"_s, {{u"port"_s, port}}, Cli::tr("Connected to %1").arg(port));
 }
 
 void RecordReport::serial(const QString &value)
 {
     if (std::exchange(m_serial, value) == value)
         return;
-    event(u"serial"_s, {{u"value"_s, value}}, u"Serial number "_s + value);
+    event(u"serial"_s, {{u"value"_s, value}}, Cli::tr("Serial number %1").arg(value));
 }
 
 void RecordReport::version(const QString &value)
 {
     if (std::exchange(m_version, value) == value)
         return;
-    event(u"version"_s, {{u"value"_s, value}}, u"Firmware version "_s + value);
+    event(u"version"_s, {{u"value"_s, value}}, Cli::tr("Firmware version %1").arg(value));
 }
 
 void RecordReport::recording(const QString &path)
 {
-    event(u"recording"_s, {{u"path"_s, path}}, u"Recording to "_s + path);
+    event(u"recording"_s, {{u"path"_s, path}}, Cli::tr("Recording to %1").arg(path));
 }
 
 void RecordReport::found(int lane)
 {
-    event(u"found"_s, {{u"lane"_s, lane}}, u"Lane %1: on the drum"_s.arg(lane));
+    event(u"found"_s, {{u"lane"_s, lane}}, Cli::tr("Lane %1: on the drum").arg(lane));
 }
 
 void RecordReport::fall(qint64 start, qint64 end, double rotations, int index, bool rat)
@@ -60,17 +61,17 @@ void RecordReport::fall(qint64 start, qint64 end, double rotations, int index, b
            {u"rotations"_s, rotations},
            {u"index"_s, index},
            {u"rat"_s, rat}},
-          u"Lane %1: off the drum after %2 s"_s.arg(index + 1).arg(seconds));
+          Cli::tr("Lane %1: off the drum after %2 s").arg(index + 1).arg(seconds));
 }
 
 void RecordReport::disconnected()
 {
-    event(u"disconnected"_s, {}, u"The link to the instrument was lost"_s);
+    event(u"disconnected"_s, {}, Cli::tr("The link to the instrument was lost"));
 }
 
 void RecordReport::stopped(const QString &path)
 {
-    event(u"stopped"_s, {{u"path"_s, path}}, u"Stopped"_s);
+    event(u"stopped"_s, {{u"path"_s, path}}, Cli::tr("Stopped"));
     if (!m_json)
         m_context.out << path << Qt::endl;
 }

@@ -1,4 +1,5 @@
 #include "cli/recordsession.h"
+#include "cli/clitext.h"
 
 #include "core/spinbarmodel.h"
 #include "core/spinbarrecord.h"
@@ -80,7 +81,7 @@ void RecordSession::interrupt()
     if (m_phase == Phase::Recording) {
         m_model.stopRecord();
     } else if (m_phase == Phase::Waiting) {
-        m_context.err << "spinbar-cli: interrupted before a recording began" << Qt::endl;
+        m_context.err << "spinbar-cli: " << Cli::tr("interrupted before a recording began") << Qt::endl;
         end(ExitCode::Failed);
     }
 }
@@ -175,7 +176,7 @@ void RecordSession::handleRecordStopped()
 
 void RecordSession::handleWaitOver()
 {
-    m_context.err << "spinbar-cli: no instrument answered in time" << Qt::endl;
+    m_context.err << "spinbar-cli: " << Cli::tr("no instrument answered in time") << Qt::endl;
     end(ExitCode::NoInstrument);
 }
 

@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/optionreader.h"
 #include "cli/tableoutput.h"
@@ -34,7 +35,8 @@ QList<int> readThresholds(const QString &text, qsizetype lanes, OptionReader &re
             thresholds.append(value);
     }
     if (thresholds.size() != lanes || parts.size() != lanes) {
-        reader.fault(u"--thresholds takes %1 numbers from %2 to %3, separated by ';'"_s.arg(lanes)
+        reader.fault(Cli::tr("--thresholds takes %1 numbers from %2 to %3, separated by ';'")
+                         .arg(lanes)
                          .arg(LowestThreshold)
                          .arg(HighestThreshold));
     }
@@ -54,9 +56,11 @@ DetectionReplay::Options readOptions(const QCommandLineParser &parser, OptionRea
 
 Table table(const QList<ExperimentItem> &items)
 {
-    Table rows{{u"Lane"_s, u"Start, ms"_s, u"End, ms"_s, u"Rotations"_s, u"Rodent"_s}};
+    Table rows{
+        {Cli::tr("Lane"), Cli::tr("Start, ms"), Cli::tr("End, ms"), Cli::tr("Rotations"), Cli::tr("Rodent")}};
     for (const ExperimentItem &item : items)
-        rows.append({item.index + 1, item.start, item.end, item.rotations, item.rat ? u"rat"_s : u"mouse"_s});
+        rows.append({item.index + 1, item.start, item.end, item.rotations,
+                     item.rat ? Cli::tr("rat") : Cli::tr("mouse")});
     return rows;
 }
 
@@ -91,15 +95,15 @@ ExitCode runReplay(CommandContext &context, const QStringList &arguments)
     OptionReader reader(parser);
     const DetectionReplay::Options options = readOptions(parser, reader);
     if (parser.positionalArguments().size() != 1)
-        reader.fault(u"'replay' takes one status log"_s);
+        reader.fault(Cli::tr("'replay' takes one status log"));
     if (!reader.error().isEmpty())
         return wrongUsage(context, reader.error());
     const QString path = parser.positionalArguments().constFirst();
     if (!QFileInfo(path).isFile())
-        return failed(context, u"'%1': no such file"_s.arg(path));
+        return failed(context, Cli::tr("'%1': no such file").arg(path));
     const auto items = DetectionReplay::run(path, options);
     if (!items)
-        return failed(context, u"'%1': cannot be read"_s.arg(path));
+        return failed(context, Cli::tr("'%1': cannot be read").arg(path));
     if (parser.isSet(u"json"_s))
         printJson(context.out, toJson(*items));
     else

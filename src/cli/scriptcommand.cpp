@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/scriptfile.h"
 #include "cli/tableoutput.h"
@@ -31,7 +32,7 @@ QJsonObject toJson(const SpeedScript &script)
 
 Table toTable(const SpeedScript &script)
 {
-    Table rows{{u"Time, s"_s, u"Speed"_s}};
+    Table rows{{Cli::tr("Time, s"), Cli::tr("Speed")}};
     const QList<double> speeds = script.table();
     for (qsizetype i = 0; i < speeds.size(); ++i)
         rows.append({double((i + 1) * ScriptStepMs) / MillisecondsPerSecond, speeds.at(i)});
@@ -50,7 +51,7 @@ ExitCode runScript(CommandContext &context, const QStringList &arguments)
     if (const auto ended = parseArguments(parser, context, u"script"_s, arguments))
         return *ended;
     if (parser.positionalArguments().size() != 1)
-        return wrongUsage(context, u"'script' takes one file"_s);
+        return wrongUsage(context, Cli::tr("'script' takes one file"));
     const QString path = parser.positionalArguments().constFirst();
     if (const QString fault = scriptFileFault(path); !fault.isEmpty())
         return failed(context, u"'%1': %2"_s.arg(path, fault));
@@ -62,9 +63,11 @@ ExitCode runScript(CommandContext &context, const QStringList &arguments)
         printJson(context.out, toJson(script));
         return ExitCode::Done;
     }
-    context.out << "Duration "
-                << QString::number(script.getDurationSeconds(), 'g', QLocale::FloatingPointShortest) << " s, "
-                << (script.getInfinite() ? u"endless"_s : u"%1 loops"_s.arg(script.getLoops())) << "\n\n";
+    const QString seconds = QString::number(script.getDurationSeconds());
+    context.out << (script.getInfinite()
+                        ? Cli::tr("Duration %1 s, endless").arg(seconds)
+                        : Cli::tr("Duration %1 s, %2 loops").arg(seconds).arg(script.getLoops()))
+                << "\n\n";
     printTable(context.out, toTable(script));
     return ExitCode::Done;
 }

@@ -1,3 +1,4 @@
+#include "cli/clitext.h"
 #include "cli/command.h"
 #include "cli/experimentarguments.h"
 #include "cli/tableoutput.h"
@@ -20,7 +21,7 @@ ExitCode runTable(CommandContext &context, const QStringList &arguments)
         return *ended;
     const QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrongUsage(context, u"'table' needs an experiment"_s);
+        return wrongUsage(context, Cli::tr("'table' needs an experiment"));
     const Records records = loadExperiments(context, words);
     if (records.empty())
         return ExitCode::Failed;

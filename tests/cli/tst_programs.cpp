@@ -152,6 +152,17 @@ private slots:
         QVERIFY(record.load());
     }
 
+    void messagesFollowTheLanguage()
+    {
+        QProcess program;
+        program.start(qEnvironmentVariable("SPINBAR_CLI"),
+                      {u"--language"_s, u"ru_RU"_s, u"--data"_s, m_folder->path(), u"table"_s, u"gone"_s});
+        QVERIFY(program.waitForFinished(StartTimeoutMs));
+        QCOMPARE(program.exitCode(), 1);
+        QCOMPARE(QString::fromUtf8(program.readAllStandardError()).trimmed(),
+                 u"spinbar-cli: «gone»: нет такого эксперимента"_s);
+    }
+
 private:
     QString port() const { return m_folder->filePath(u"instrument"_s); }
 
