@@ -25,9 +25,9 @@ struct Bench
 
     bool connect()
     {
-        // The last of what a connect sets off.
-        return QTest::qWaitFor([this] { return !spinbar->version().isEmpty(); })
-               && line.waitFor("{irmode=r}");
+        // The serial number is asked for twice, and each answer asks for the version.
+        return QTest::qWaitFor([this] { return !spinbar->version().isEmpty(); }) && line.waitFor("{irmode=r}")
+               && line.waitFor("{version}", 2);
     }
 
     /// What goes out for \a command, without keep-alive and second greeting.
