@@ -76,7 +76,7 @@ void RecordReport::stopped(const QString &path)
         m_context.out << path << Qt::endl;
 }
 
-void RecordReport::event(const QString &name, QJsonObject fields, const QString &words)
+void RecordReport::event(const QString &name, const QJsonObject &fields, const QString &words)
 {
     if (!m_json) {
         m_context.err << words << Qt::endl;

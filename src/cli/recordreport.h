@@ -26,7 +26,7 @@ public:
     void stopped(const QString &path);
 
 private:
-    void event(const QString &name, QJsonObject fields, const QString &words);
+    void event(const QString &name, const QJsonObject &fields, const QString &words);
 
     CommandContext &m_context;
     const bool m_json;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // No status message comes near; what is longer is no line of a log.
-constexpr qint64 MaxLineBytes = 64 * 1024;
+constexpr qint64 MaxLineBytes = qint64(64) * 1024;
 
 // The trail seconds are the whole process's.
 class TrailSecondsScope

@@ -17,7 +17,7 @@ namespace {
 constexpr double BytesPerUnitStep = 1024.0;
 constexpr int FileSizeDecimals = 1;
 // Far above what is ever written, so that a foreign file of any size costs no memory.
-constexpr qint64 MaxCoveredBytes = 64 * 1024 * 1024;
+constexpr qint64 MaxCoveredBytes = qint64(64) * 1024 * 1024;
 
 void appendSubfolders(const QString &base, const QString &prefix, bool recursive, QStringList &out)
 {
