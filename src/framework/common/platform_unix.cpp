@@ -2,9 +2,21 @@
 
 #include "framework/common/processlist.h"
 
+#include <QProcess>
+
 using namespace Qt::StringLiterals;
 
 QStringList Platform::runningImageNames()
 {
     return ProcessList::fromProcFolder(u"/proc"_s);
+}
+
+QString Platform::executableSuffix()
+{
+    return {};
+}
+
+void Platform::startCommandLine(QProcess &process, const QString &line)
+{
+    process.startCommand(line);
 }

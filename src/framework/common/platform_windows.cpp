@@ -19,3 +19,15 @@ QStringList Platform::runningImageNames()
     command.waitForFinished(TaskListTimeoutMs);
     return ProcessList::fromTaskList(QString::fromUtf8(command.readAllStandardOutput()));
 }
+
+QString Platform::executableSuffix()
+{
+    return u".exe"_s;
+}
+
+void Platform::startCommandLine(QProcess &process, const QString &line)
+{
+    // A program name that begins with a quote reaches the system as it is, arguments and all, so the quotes
+    // stand exactly where the line has them.
+    process.start(line);
+}
