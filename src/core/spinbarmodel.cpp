@@ -4,6 +4,7 @@
 #include "core/spinbarsettings.h"
 #include "detection/spinbardetection.h"
 #include "device/curlyspinbar.h"
+#include "device/devicetypes.h"
 #include "framework/common/fileutilities.h"
 #include "framework/common/texthelper.h"
 
@@ -37,6 +38,7 @@ SpinbarModel::SpinbarModel(QObject *parent, const QString &dataFolder)
     m_settings = std::make_unique<SpinbarSettings>(m_dataFolder + "Settings.xml"_L1, nullptr);
     m_settings->reload();
     connectSettings();
+    DeviceTypes::registerAll();
     m_device = std::make_unique<CurlySpinbar>(u"Spinbar"_s, nullptr);
     connectDevice();
     theModel = this;

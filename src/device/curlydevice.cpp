@@ -202,18 +202,6 @@ void CurlyDevice::handleError(QSerialPort *port, QSerialPort::SerialPortError er
     setConnected(false);
 }
 
-void CurlyDevice::setVersion(const QString &version)
-{
-    m_version = version;
-    emit gotVersion(version);
-}
-
-void CurlyDevice::setSerialNumber(const QString &serialNumber)
-{
-    m_serialNumber = serialNumber;
-    emit gotSerialNumber(serialNumber);
-}
-
 QString CurlyDevice::greetingRequest() const
 {
     return u"whois"_s;

@@ -74,11 +74,17 @@ signals:
     void onMessage(const QString &msg);
 
 protected:
-    /// Store and tell.
-    void setVersion(const QString &version);
-    void setSerialNumber(const QString &serialNumber);
+    /// Takes the answers to "sn" and "version", asks for the version behind a good serial number and gives a
+    /// blank instrument a new one. False for any other message.
+    bool handleIdentity(const QString &message);
+    /// \a kind, year and month, and a random number from 101 to 998; two instruments may draw the same.
+    static QString drawSerialNumber(const QString &kind);
 
 private:
+    void handleSerialNumber(const QString &message);
+    /// Stores and tells.
+    void setVersion(const QString &version);
+
     void checkLink();
     void takePort(const NamedPort &answered);
     void readPort(QSerialPort *port);

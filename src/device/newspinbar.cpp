@@ -2,26 +2,11 @@
 
 #include "device/linklog.h"
 
-#include <QDate>
-#include <QRandomGenerator>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto SerialPrefix = "sn="_L1;
-constexpr auto VersionPrefix = "version="_L1;
-constexpr auto ShortVersionPrefix = "v="_L1;
 constexpr auto StatusPrefix = "S,"_L1;
-
-constexpr int FirstRandomSerial = 101;
-constexpr int RandomSerials = 898;
-
-// An instrument fresh from production has no serial number of its own.
-bool isBlank(const QString &message)
-{
-    return message == "sn=000000"_L1 || message.startsWith("sn=yy"_L1) || message == SerialPrefix;
-}
 
 } // namespace
 
@@ -32,9 +17,7 @@ QString NewSpinbar::deviceType() const
 
 QString NewSpinbar::newSerialNumber() const
 {
-    const quint64 random = QRandomGenerator::global()->generate();
-    const int drawn = static_cast<int>((random * RandomSerials) >> 32) + FirstRandomSerial;
-    return u"B4"_s + QDate::currentDate().toString(u"yyMM"_s) + QString::number(drawn);
+    return drawSerialNumber(u"B4"_s);
 }
 
 QString NewSpinbar::greetingReply() const
@@ -49,25 +32,10 @@ void NewSpinbar::onLinkUp()
 
 void NewSpinbar::onTextMessage(const QString &message)
 {
-    if (message.startsWith(SerialPrefix))
-        handleSerialNumber(message);
-    else if (message.startsWith(VersionPrefix))
-        setVersion(message.sliced(VersionPrefix.size()));
-    else if (message.startsWith(ShortVersionPrefix))
-        setVersion(message.sliced(ShortVersionPrefix.size()));
-    else if (message.startsWith(StatusPrefix))
+    if (handleIdentity(message))
+        return;
+    if (message.startsWith(StatusPrefix))
         handleStatus(message);
     else
         qCInfo(lcLink).noquote() << "unparsed msg" << message;
-}
-
-void NewSpinbar::handleSerialNumber(const QString &message)
-{
-    qCInfo(lcLink).noquote() << deviceType() << "serial" << message;
-    if (isBlank(message)) {
-        send(u"writesn="_s + newSerialNumber());
-        return;
-    }
-    send(u"version"_s);
-    setSerialNumber(message.sliced(SerialPrefix.size()));
 }

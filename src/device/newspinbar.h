@@ -16,7 +16,4 @@ public:
     QString greetingReply() const override;
     void onTextMessage(const QString &message) override;
     void onLinkUp() override;
-
-private:
-    void handleSerialNumber(const QString &message);
 };
