@@ -88,9 +88,19 @@ ExperimentLibrary::RenameOutcome ExperimentLibrary::rename(const QString &folder
 bool ExperimentLibrary::remove(const QString &folder) const
 {
     const QString path = withoutSlash(folder);
-    if (holds(folder) && hasTrash() && QFile::moveToTrash(path) && !QFileInfo::exists(path))
+    QFile file(path);
+    QString reason;
+    if (!holds(folder))
+        reason = u"not under the records folder"_s;
+    else if (!hasTrash())
+        reason = u"there is no folder for a trash"_s;
+    else if (!file.moveToTrash())
+        reason = file.errorString();
+    else if (QFileInfo::exists(path))
+        reason = u"it is still there"_s;
+    if (reason.isEmpty())
         return true;
-    qCWarning(recordsLog) << "Cannot move to the trash:" << folder;
+    qCWarning(recordsLog) << "Cannot move to the trash:" << folder << reason;
     return false;
 }
 

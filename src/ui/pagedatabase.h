@@ -1,19 +1,73 @@
 #pragma once
 
+#include "core/experimentlibrary.h"
+#include "core/experimentrecords.h"
+
+#include "framework/common/connectionhelper.h"
+
+#include <QPointer>
 #include <QWidget>
 
-/// The experiments on disk.
+class QLabel;
+class QStackedWidget;
+class QTableWidgetItem;
+class RecordsTable;
+class SpinbarSettings;
+
+/// The experiments on disk: a table of all, in which they are named, renamed and removed, beside what there
+/// is to see of those selected. Nothing watches the disk: the page shows what the last reload found.
 class PageDatabase : public QWidget
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    /// For the records folder and the settings of SpinbarModel::instance().
+    explicit PageDatabase(QWidget *parent);
+    /// Stores how the table is sorted.
+    ~PageDatabase() override;
 
     /// The records changed: the page is to be filled anew when it is next shown.
     void setNeedsReload() { m_needsReload = true; }
     bool needsReload() const { return m_needsReload; }
 
+public slots:
+    void reload();
+    /// Shows what the selection calls for.
+    void manageSelection();
+    /// Asks, and moves the folders of these "experiment.json" to the trash.
+    void removeExperiments(const QStringList &paths);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
+    void createTable();
+    void createStack();
+    QWidget *createSinglePage();
+    QWidget *createMultiPage();
+    QWidget *createTableSide();
+    void layOut();
+    void clear();
+    void restoreSort();
+    void showSingle(SpinbarRecord *record);
+    void showSeveral(const QStringList &paths);
+    void applyEdit(const QTableWidgetItem *cell);
+    void rename(const QString &path, const QString &newName);
+    void refuseName(const QString &path, const QString &oldName, const QString &reason);
+    void showMenu(QPoint position);
+    void openRecordsFolder() const;
+
+    ExperimentLibrary m_library;
+    QPointer<SpinbarSettings> m_settings;
+    ExperimentRecords *m_records = nullptr;
+    RecordsTable *m_table = nullptr;
+    QStackedWidget *m_stack = nullptr;
+    QLabel *m_noDataLabel = nullptr;
+    QLabel *m_dateLabel = nullptr;
+    QWidget *m_singlePage = nullptr;
+    QWidget *m_multiPage = nullptr;
     bool m_needsReload = true;
+    bool m_sortRestored = false;
+    /// The table still speaks while it is destroyed, after this has ended.
+    ConnectionHelper m_tableConnections;
 };

@@ -1,0 +1,307 @@
+#include "ui/pagedatabase.h"
+
+#include "ui/pagebar.h"
+#include "ui/recordstable.h"
+
+#include "core/recordslog.h"
+#include "core/spinbarmodel.h"
+#include "core/spinbarrecord.h"
+#include "core/spinbarsettings.h"
+#include "framework/common/fileutilities.h"
+#include "framework/common/texthelper.h"
+#include "framework/common/widgets/apphelperdialogs.h"
+#include "framework/common/widgets/stylehelper.h"
+#include "framework/common/widgets/uihelper.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LeastTableSideWidth = 300;
+constexpr int LeastStackWidth = 300;
+constexpr int SplitterScale = 1000;
+// Far wider than any screen; a settings file may hold anything.
+constexpr double MostLeftSize = 1e6;
+
+QString folderOf(const QString &jsonPath)
+{
+    return jsonPath.first(jsonPath.lastIndexOf('/'_L1) + 1);
+}
+
+/// The system refuses to move a folder in which the log is being written, but not on every platform.
+bool isBeingRecorded(const QString &folder)
+{
+    const SpinbarRecord *current = SpinbarModel::instance()->currentRecord();
+    return current && QFileInfo(current->folder()) == QFileInfo(folder);
+}
+
+} // namespace
+
+PageDatabase::PageDatabase(QWidget *parent)
+    : QWidget(parent)
+    , m_library(SpinbarModel::instance()->recordsFolder())
+    , m_settings(SpinbarModel::instance()->settings())
+    , m_records(new ExperimentRecords(this))
+{
+    createTable();
+    createStack();
+    layOut();
+}
+
+PageDatabase::~PageDatabase()
+{
+    // A page that was never filled has no sort of its own yet.
+    if (!m_sortRestored || !m_settings)
+        return;
+    m_settings->setSortingColumn(m_table->sortColumn());
+    m_settings->setSortingOrder(m_table->sortOrder());
+    m_settings->save();
+}
+
+void PageDatabase::createTable()
+{
+    m_table = new RecordsTable;
+    auto *remover = new QShortcut(QKeySequence(QKeySequence::Delete), m_table);
+    remover->setContext(Qt::WidgetShortcut);
+    m_tableConnections << connect(remover, &QShortcut::activated, this,
+                                  [this] { removeExperiments(m_table->selectedPaths()); })
+                       << connect(m_table, &QTableWidget::itemSelectionChanged, this,
+                                  &PageDatabase::manageSelection)
+                       << connect(m_table, &QTableWidget::itemChanged, this, &PageDatabase::applyEdit)
+                       << connect(m_table, &QWidget::customContextMenuRequested, this,
+                                  &PageDatabase::showMenu);
+}
+
+void PageDatabase::createStack()
+{
+    m_noDataLabel = new QLabel(tr("No data"));
+    m_noDataLabel->setStyleSheet(u"color: #999; font-size: 20px"_s);
+    m_noDataLabel->setAlignment(Qt::AlignCenter);
+    m_singlePage = createSinglePage();
+    m_multiPage = createMultiPage();
+    m_stack = new QStackedWidget;
+    m_stack->setMinimumWidth(LeastStackWidth);
+    for (QWidget *page : {static_cast<QWidget *>(m_noDataLabel), m_singlePage, m_multiPage})
+        m_stack->addWidget(page);
+}
+
+QWidget *PageDatabase::createSinglePage()
+{
+    m_dateLabel = UIHelper::GenerateLabelWithName({}, u"subtext"_s);
+    m_dateLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
+    return PageBar::below(new QWidget, {m_dateLabel, nullptr, exporter});
+}
+
+QWidget *PageDatabase::createMultiPage()
+{
+    auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
+    return PageBar::below(new QWidget, {nullptr, exporter});
+}
+
+QWidget *PageDatabase::createTableSide()
+{
+    auto *open = PageBar::toolButton(u":/icons/folder.svg"_s, tr("Open in explorer"));
+    auto *refresh = PageBar::toolButton(u":/icons/refresh.svg"_s, tr("Reload records"));
+    connect(open, &QPushButton::clicked, this, &PageDatabase::openRecordsFolder);
+    connect(refresh, &QPushButton::clicked, this, &PageDatabase::reload);
+    QWidget *side = PageBar::below(m_table, {nullptr, open, refresh});
+    side->setMinimumWidth(LeastTableSideWidth);
+    return side;
+}
+
+void PageDatabase::layOut()
+{
+    auto *splitter = new QSplitter;
+    splitter->addWidget(createTableSide());
+    splitter->addWidget(m_stack);
+    splitter->setChildrenCollapsible(false);
+    const double left = m_settings->getDatabaseSplitterRatio() * SplitterScale;
+    splitter->setSizes({int(std::clamp(left, 0.0, MostLeftSize)), SplitterScale});
+    connect(splitter, &QSplitter::splitterMoved, this, [this, splitter] {
+        const QList<int> sizes = splitter->sizes();
+        if (sizes.constLast() > 0)
+            m_settings->setDatabaseSplitterRatio(double(sizes.constFirst()) / sizes.constLast());
+    });
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter);
+}
+
+void PageDatabase::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!m_needsReload)
+        return;
+    m_needsReload = false;
+    reload();
+}
+
+void PageDatabase::clear()
+{
+    m_records->clear();
+}
+
+void PageDatabase::reload()
+{
+    clear();
+    m_records->read(m_library.folders());
+    restoreSort();
+    m_table->fill(m_records->all(), m_settings->getLastExperimentPath());
+    manageSelection();
+}
+
+void PageDatabase::restoreSort()
+{
+    if (m_sortRestored)
+        return;
+    m_sortRestored = true;
+    m_table->setSort(m_settings->getSortingColumn(), m_settings->getSortingOrder());
+}
+
+void PageDatabase::manageSelection()
+{
+    const QStringList paths = m_table->selectedPaths();
+    m_table->markWholeRows();
+    m_dateLabel->clear();
+    m_stack->setCurrentWidget(m_noDataLabel);
+    QString shown;
+    if (paths.size() > 1) {
+        showSeveral(paths);
+    } else if (SpinbarRecord *record = m_records->find(paths.value(0))) {
+        shown = record->experimentJsonPath();
+        showSingle(record);
+    }
+    m_settings->setLastExperimentPath(shown);
+}
+
+void PageDatabase::showSingle(SpinbarRecord *record)
+{
+    if (record->timestamp() != 0)
+        m_dateLabel->setText(TextHelper::DateTimeFileString(
+            QDateTime::fromMSecsSinceEpoch(record->timestamp()).toLocalTime(), true));
+    m_stack->setCurrentWidget(m_singlePage);
+}
+
+void PageDatabase::showSeveral(const QStringList &paths)
+{
+    QList<SpinbarRecord *> records;
+    for (const QString &path : paths) {
+        if (SpinbarRecord *record = m_records->find(path))
+            records.append(record);
+    }
+    m_stack->setCurrentWidget(m_multiPage);
+}
+
+void PageDatabase::applyEdit(const QTableWidgetItem *cell)
+{
+    const QString path = cell->data(RecordsTable::PathRole).toString();
+    const QString key = cell->data(RecordsTable::KeyRole).toString();
+    const QString text = cell->text();
+    SpinbarRecord *record = m_records->find(path);
+    if (!record)
+        return;
+    if (key == "Title"_L1) {
+        // Renaming fills the table anew, which still has to sort for this change of a cell.
+        QMetaObject::invokeMethod(
+            this, [this, path, text] { rename(path, text); }, Qt::QueuedConnection);
+        return;
+    }
+    if (key == "Rodent"_L1)
+        record->setTitle(text);
+    else if (key == "Comment"_L1)
+        record->setComment(text);
+    record->save();
+}
+
+void PageDatabase::rename(const QString &path, const QString &newName)
+{
+    using Outcome = ExperimentLibrary::RenameOutcome;
+    const SpinbarRecord *record = m_records->find(path);
+    if (!record)
+        return;
+    QString folder;
+    const Outcome outcome = isBeingRecorded(record->folder())
+                                ? Outcome::Failed
+                                : m_library.rename(record->folder(), newName, &folder);
+    switch (outcome) {
+    case Outcome::Unchanged:
+        return;
+    case Outcome::EmptyName:
+        return refuseName(path, record->name(), tr("Experiment title cannot be empty"));
+    case Outcome::NameTaken:
+        return refuseName(path, record->name(), tr("This title is already used"));
+    case Outcome::Renamed:
+        m_settings->setLastExperimentPath(ExperimentFile::pathIn(folder));
+        break;
+    case Outcome::Failed:
+        AppHelper::warningMessage(tr("Cannot rename experiment"), {});
+        break;
+    }
+    reload();
+}
+
+void PageDatabase::refuseName(const QString &path, const QString &oldName, const QString &reason)
+{
+    m_table->setCellText(path, RecordsTable::NameColumn, oldName);
+    AppHelper::warningMessage(reason, {});
+}
+
+void PageDatabase::showMenu(QPoint position)
+{
+    const QStringList paths = m_table->selectedPaths();
+    if (paths.isEmpty())
+        return;
+    QMenu menu(this);
+    const bool single = paths.size() == 1;
+    if (single) {
+        QAction *show = menu.addAction(tr("Show in folder"));
+        StyleHelper::Instance()->setMenuActionIcon(show, u":/icons/folder.svg"_s, u"#FFF"_s);
+        connect(show, &QAction::triggered, this, [paths] { AppHelper::showInFolder(paths.constFirst()); });
+        menu.addSeparator();
+    }
+    QAction *remove = menu.addAction(single ? tr("Remove experiment") : tr("Remove experiments"));
+    StyleHelper::Instance()->setMenuActionIcon(remove, u":/icons/delete.svg"_s, u"#FFF"_s);
+    connect(remove, &QAction::triggered, this, [this, paths] { removeExperiments(paths); });
+    menu.exec(m_table->viewport()->mapToGlobal(position));
+}
+
+void PageDatabase::removeExperiments(const QStringList &paths)
+{
+    if (paths.isEmpty())
+        return;
+    const QString question =
+        paths.size() == 1
+            ? tr("Remove selected experiment") + '?'_L1
+            : u"%1 %2 %3?"_s.arg(tr("Remove")).arg(paths.size()).arg(tr("selected experiments"));
+    if (!AppHelper::confirmDialog(tr("Remove"), question, QMessageBox::Question))
+        return;
+    bool removed = false;
+    for (const QString &path : paths) {
+        const QString folder = folderOf(path);
+        if (isBeingRecorded(folder))
+            qCWarning(recordsLog) << "Not moved to the trash while it is recorded:" << folder;
+        else
+            removed |= m_library.remove(folder);
+    }
+    if (removed)
+        reload();
+}
+
+void PageDatabase::openRecordsFolder() const
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(m_library.recordsFolder()));
+}

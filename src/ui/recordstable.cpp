@@ -1,0 +1,164 @@
+#include "ui/recordstable.h"
+
+#include "core/spinbarrecord.h"
+#include "framework/common/widgets/mediahelper.h"
+#include "framework/common/widgets/tablecopy.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QSet>
+#include <QSignalBlocker>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LeastWidth = 200;
+constexpr int LeastSectionWidth = 40;
+// What the screen says differs from the keys.
+constexpr std::array<const char *, RecordsTable::ColumnCount> Keys = {
+    QT_TRANSLATE_NOOP("Generic", "Title"), QT_TRANSLATE_NOOP("Generic", "Rodent"),
+    QT_TRANSLATE_NOOP("Generic", "Comment"), QT_TRANSLATE_NOOP("Generic", "N")};
+
+const QStringList &headers()
+{
+    static const QStringList captions = [] {
+        QStringList list;
+        for (const char *key : Keys)
+            list.append(QCoreApplication::translate("Generic", key));
+        return list;
+    }();
+    return captions;
+}
+
+QIcon rodentIcon(bool rat)
+{
+    static const QIcon ratIcon = MediaHelper::icon(u":/resources/images/rat.png"_s);
+    static const QIcon mouseIcon = MediaHelper::icon(u":/resources/images/mouse.png"_s);
+    return rat ? ratIcon : mouseIcon;
+}
+
+} // namespace
+
+RecordsTable::RecordsTable(QWidget *parent)
+    : QTableWidget(0, ColumnCount, parent)
+{
+    // For the sort arrows of the theme.
+    setObjectName(u"sortableTable"_s);
+    setMinimumWidth(LeastWidth);
+    setSelectionMode(ExtendedSelection);
+    // So that Control and a click take a marked row out again.
+    setSelectionBehavior(SelectRows);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(LeastSectionWidth);
+    setHorizontalHeaderLabels(headers());
+    for (const Column column : {NameColumn, CountColumn})
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    for (const Column column : {TitleColumn, CommentColumn})
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    TableCopy::install(this);
+}
+
+void RecordsTable::fill(const QList<SpinbarRecord *> &records, const QString &selectedPath)
+{
+    const QSignalBlocker blocker(this);
+    clearContents();
+    setSortingEnabled(false);
+    setRowCount(int(records.size()));
+    int selectedRow = -1;
+    for (int row = 0; row < rowCount(); ++row) {
+        const SpinbarRecord &record = *records.at(row);
+        fillRow(row, record);
+        if (record.experimentJsonPath() == selectedPath)
+            selectedRow = row;
+    }
+    if (selectedRow >= 0)
+        selectRow(selectedRow);
+    setSortingEnabled(true);
+    if (selectedRow >= 0)
+        scrollTo(currentIndex());
+}
+
+void RecordsTable::fillRow(int row, const SpinbarRecord &record)
+{
+    const std::array<QString, ColumnCount> texts = {record.name(), record.title(), record.comment(),
+                                                    QString::number(record.rawItems().size())};
+    const QString path = record.experimentJsonPath();
+    for (int column = 0; column < ColumnCount; ++column) {
+        auto *cell = new QTableWidgetItem(texts[std::size_t(column)]);
+        const bool isCount = column == CountColumn;
+        cell->setData(PathRole, path);
+        cell->setToolTip(path);
+        cell->setTextAlignment(Qt::AlignVCenter | (isCount ? Qt::AlignRight : Qt::AlignLeft));
+        if (isCount)
+            cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
+        else
+            cell->setData(KeyRole, QString::fromLatin1(Keys[std::size_t(column)]));
+        if (column == NameColumn)
+            cell->setIcon(rodentIcon(record.isRat()));
+        setItem(row, column, cell);
+    }
+}
+
+QStringList RecordsTable::selectedPaths() const
+{
+    // Not by selectedItems(): a sorted table has to search for the row of each.
+    QStringList paths;
+    QSet<QString> known;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const QString path = item(row, NameColumn)->data(PathRole).toString();
+            if (path.isEmpty() || known.contains(path))
+                continue;
+            known.insert(path);
+            paths.append(path);
+        }
+    }
+    return paths;
+}
+
+void RecordsTable::markWholeRows()
+{
+    QItemSelection rows;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        if (range.width() < ColumnCount)
+            rows.select(model()->index(range.top(), 0), model()->index(range.bottom(), ColumnCount - 1));
+    }
+    const QSignalBlocker blocker(this);
+    selectionModel()->select(rows, QItemSelectionModel::Select);
+}
+
+void RecordsTable::setCellText(const QString &path, Column column, const QString &text)
+{
+    const QSignalBlocker blocker(this);
+    // First all of them: each new text may move rows.
+    QList<QTableWidgetItem *> cells;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (item(row, column)->data(PathRole).toString() == path)
+            cells.append(item(row, column));
+    }
+    for (QTableWidgetItem *cell : cells)
+        cell->setText(text);
+}
+
+int RecordsTable::sortColumn() const
+{
+    return horizontalHeader()->sortIndicatorSection();
+}
+
+Qt::SortOrder RecordsTable::sortOrder() const
+{
+    return horizontalHeader()->sortIndicatorOrder();
+}
+
+void RecordsTable::setSort(int column, Qt::SortOrder order)
+{
+    const bool exists = column >= 0 && column < ColumnCount;
+    horizontalHeader()->setSortIndicator(exists ? column : NameColumn, order);
+}
