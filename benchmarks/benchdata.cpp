@@ -19,6 +19,12 @@ constexpr qint64 HourMs = 3'600'000;
 constexpr int LanesOfRats = 4;
 constexpr double RotationsOfRow = 3333.0;
 
+QString experimentName(int number)
+{
+    return QDateTime::fromMSecsSinceEpoch(FirstTimestampMs + number * HourMs, Qt::UTC)
+        .toString(u"yyyy.MM.dd-hh.mm.ss.zzz"_s);
+}
+
 } // namespace
 
 QByteArray BenchData::statusLine(int line)
@@ -67,9 +73,17 @@ bool BenchData::writeExperiment(const QString &folder, int rows, int lines)
 bool BenchData::writeExperiments(const QString &recordsFolder, int count, int rows)
 {
     for (int i = 0; i < count; ++i) {
-        const QString name = QDateTime::fromMSecsSinceEpoch(FirstTimestampMs + i * HourMs, Qt::UTC)
-                                 .toString(u"yyyy.MM.dd-hh.mm.ss.zzz"_s);
-        if (!writeExperiment(recordsFolder + '/'_L1 + name, rows, rows * 100))
+        if (!writeExperiment(recordsFolder + '/'_L1 + experimentName(i), rows, rows * 100))
+            return false;
+    }
+    return true;
+}
+
+bool BenchData::writeRecordings(const QString &recordsFolder, int count, int rows, int lines)
+{
+    for (int i = 0; i < count; ++i) {
+        const QString folder = recordsFolder + '/'_L1 + experimentName(i);
+        if (!writeExperiment(folder, rows, lines) || !writeStatusLog(folder + "/status.log"_L1, lines))
             return false;
     }
     return true;

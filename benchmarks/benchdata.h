@@ -20,4 +20,7 @@ bool writeExperiment(const QString &folder, int rows, int lines);
 /// \a count experiment folders under \a recordsFolder, each with \a rows rows and no log.
 bool writeExperiments(const QString &recordsFolder, int count, int rows);
 
+/// The same with a log of \a lines status lines each.
+bool writeRecordings(const QString &recordsFolder, int count, int rows, int lines);
+
 } // namespace BenchData

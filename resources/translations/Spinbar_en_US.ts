@@ -293,6 +293,13 @@
     </message>
 </context>
 <context>
+    <name>ExperimentViewer</name>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ExportBehaviorOption</name>
     <message>
         <source>OnExport_DoNothing</source>

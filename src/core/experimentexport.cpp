@@ -20,7 +20,7 @@ QString ExperimentExport::suggestedName(const QList<SpinbarRecord *> &records)
     return records.size() < 2 ? first : first + '-'_L1 + records.constLast()->name();
 }
 
-QList<XLSXHelper::Sheet> ExperimentExport::sheets(const QList<SpinbarRecord *> &records)
+QList<XLSXHelper::Sheet> ExperimentExport::sheets(const QList<SpinbarRecord *> &records, const WorkStep &step)
 {
     QList<XLSXHelper::Sheet> result;
     QList<ExperimentStatistics::SummaryRow> summary;
@@ -31,6 +31,8 @@ QList<XLSXHelper::Sheet> ExperimentExport::sheets(const QList<SpinbarRecord *> &
         summary.append(ExperimentStatistics::summaryRow(*record));
         if (!wasLoaded)
             record->releaseStatus();
+        if (!goesOn(step))
+            return {};
     }
     if (records.size() > 1)
         result.prepend({QCoreApplication::translate("PageDatabase", "Summary"),
@@ -38,11 +40,16 @@ QList<XLSXHelper::Sheet> ExperimentExport::sheets(const QList<SpinbarRecord *> &
     return result;
 }
 
+bool ExperimentExport::writeSheets(const QList<XLSXHelper::Sheet> &sheets, const QString &path, Format format,
+                                   const WorkStep &step)
+{
+    if (sheets.isEmpty())
+        return false;
+    return format == Format::Csv ? XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s, step)
+                                 : XLSXHelper::dataToXLSX(sheets, path, step);
+}
+
 bool ExperimentExport::write(const QList<SpinbarRecord *> &records, const QString &path, Format format)
 {
-    if (records.isEmpty())
-        return false;
-    const QList<XLSXHelper::Sheet> tables = sheets(records);
-    return format == Format::Csv ? XLSXHelper::dataToCSV(tables, path, u";"_s, u"\r\n"_s)
-                                 : XLSXHelper::dataToXLSX(tables, path);
+    return writeSheets(sheets(records), path, format);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/common/workstep.h"
 #include "framework/common/xlsxhelper.h"
 
 #include <QList>
@@ -19,9 +20,13 @@ Format formatOfFilter(const QString &filter);
 QString suggestedName(const QList<SpinbarRecord *> &records);
 
 /// One record: its table. Several: their summary first. Tables are in the long form with full precision.
-QList<XLSXHelper::Sheet> sheets(const QList<SpinbarRecord *> &records);
+/// \a step is called behind each record; none are the result if it ends the work.
+QList<XLSXHelper::Sheet> sheets(const QList<SpinbarRecord *> &records, const WorkStep &step = {});
 
-/// False without records or if the file can't be written.
+/// False without sheets, if the file can't be written, or if \a step, called behind each sheet, ends the
+/// work. May run on any thread.
+bool writeSheets(const QList<XLSXHelper::Sheet> &sheets, const QString &path, Format format,
+                 const WorkStep &step = {});
 bool write(const QList<SpinbarRecord *> &records, const QString &path, Format format);
 
 } // namespace ExperimentExport

@@ -197,7 +197,8 @@ Table ExperimentStatistics::summaryTable(const QList<SummaryRow> &rows, bool bri
     return table;
 }
 
-Table ExperimentStatistics::summaryTable(const QList<SpinbarRecord *> &records, bool brief)
+Table ExperimentStatistics::summaryTable(const QList<SpinbarRecord *> &records, bool brief,
+                                         const WorkStep &step)
 {
     QList<SummaryRow> rows;
     rows.reserve(records.size());
@@ -206,6 +207,8 @@ Table ExperimentStatistics::summaryTable(const QList<SpinbarRecord *> &records, 
         rows.append(summaryRow(*record));
         if (!wasLoaded)
             record->releaseStatus();
+        if (!goesOn(step))
+            return {};
     }
     return summaryTable(rows, brief);
 }

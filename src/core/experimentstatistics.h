@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/common/workstep.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -35,6 +37,7 @@ Table experimentTable(SpinbarRecord &record, bool brief);
 SummaryRow summaryRow(SpinbarRecord &record);
 Table summaryTable(const QList<SummaryRow> &rows, bool brief);
 /// Status lines that were not in memory before are not kept there, so that any number of records will do.
-Table summaryTable(const QList<SpinbarRecord *> &records, bool brief);
+/// \a step is called behind each; an empty table if it ends the work.
+Table summaryTable(const QList<SpinbarRecord *> &records, bool brief, const WorkStep &step = {});
 
 } // namespace ExperimentStatistics

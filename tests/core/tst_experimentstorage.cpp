@@ -1,15 +1,12 @@
 #include "core/spinbarrecord.h"
 
 #include "core/experimentfolder.h"
+#include "framework/common/hindrance.h"
 
 #include <QJsonArray>
 #include <QTest>
 
-#include <csignal>
 #include <limits>
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -21,31 +18,6 @@ QByteArray experimentWithItem(const QByteArray &item)
 {
     return "{\"experiment\":{\"items\":[" + item + "]}}";
 }
-
-#ifdef Q_OS_UNIX
-/// While it lives, a write beyond so many bytes fails as on a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = SIG_DFL;
-};
-#endif
 
 } // namespace
 

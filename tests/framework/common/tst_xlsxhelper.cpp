@@ -1,75 +1,62 @@
 #include "framework/common/xlsxhelper.h"
 
-#include "framework/common/zipreader.h"
+#include "framework/common/hindrance.h"
+#include "framework/common/workbookreader.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextCodec>
-#include <QXmlStreamReader>
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+using namespace WorkbookReader;
 using XLSXHelper::Sheet;
 
 namespace {
 
 const QByteArray Mark = "\xEF\xBB\xBF";
 
-QByteArray content(const QString &path)
+enum class Trouble { None, EndedAtOnce, EndedAtTheEnd, FullDisk, FullTemporaryDisk, ReadOnlyFile };
+
+/// Two sheets of many equal cells.
+bool write(const QString &path, const WorkStep &step)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QList<Sheet> sheets(2, {u"n"_s, XLSXHelper::Rows(10000, QList<QVariant>(5, 1))});
+    return path.endsWith(".csv"_L1) ? XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s, step)
+                                    : XLSXHelper::dataToXLSX(sheets, path, step);
 }
 
-/// One part of a workbook; empty if it is not well-formed.
-QByteArray part(const QString &workbook, const QString &name)
+bool writeInTrouble(const QString &path, Trouble trouble)
 {
-    const QByteArray xml = zipEntries(content(workbook)).value(name.toUtf8());
-    QXmlStreamReader reader(xml);
-    while (!reader.atEnd())
-        reader.readNext();
-    return reader.hasError() ? QByteArray() : xml;
-}
-
-QStringList attributes(const QByteArray &xml, QLatin1StringView element, QLatin1StringView attribute)
-{
-    QStringList values;
-    for (QXmlStreamReader reader(xml); !reader.atEnd();) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element)
-            values.append(reader.attributes().value(attribute).toString());
+    int steps = 0;
+    switch (trouble) {
+    case Trouble::None:
+        return write(path, [&steps] { return ++steps > 0; }) && steps >= 2;
+    case Trouble::EndedAtOnce:
+        return write(path, [] { return false; });
+    case Trouble::EndedAtTheEnd:
+        return write(path, [&steps] { return ++steps < 2; });
+#ifdef Q_OS_LINUX
+    case Trouble::FullDisk: {
+        const FileSizeLimit limit(2000);
+        return write(path, {});
     }
-    return values;
-}
-
-/// "A1=text" or "A1#number" for each cell of a sheet.
-QStringList cells(const QString &workbook, int sheet)
-{
-    QStringList shared;
-    for (QXmlStreamReader reader(part(workbook, u"xl/sharedStrings.xml"_s)); !reader.atEnd();) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == "t"_L1)
-            shared.append(reader.readElementText());
+    case Trouble::FullTemporaryDisk: {
+        // The workbook itself has room, but not what it is packed from.
+        const FileSizeLimit limit(100'000);
+        return write(path, {});
     }
-    QStringList result;
-    QXmlStreamReader reader(part(workbook, u"xl/worksheets/sheet%1.xml"_s.arg(sheet)));
-    QString place;
-    bool text = false;
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (reader.name() == "c"_L1) {
-            place = reader.attributes().value("r"_L1).toString();
-            text = reader.attributes().value("t"_L1) == "s"_L1;
-        } else if (reader.name() == "v"_L1) {
-            const QString value = reader.readElementText();
-            result.append(text ? place + '='_L1 + shared.value(value.toInt()) : place + '#'_L1 + value);
-        } else if (reader.name() == "f"_L1 || reader.name() == "hyperlink"_L1) {
-            result.append(u"formula or link"_s);
-        }
+    case Trouble::ReadOnlyFile: {
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
+        const OrdinaryUser user;
+        return write(path, {});
     }
-    return result;
+#endif
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -182,6 +169,41 @@ private slots:
         QVERIFY(!XLSXHelper::dataToXLSX({QList<QVariant>(20000, 1)}, kept, u"too wide"_s));
         QCOMPARE(content(kept), before);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {u"kept.xlsx"_s});
+    }
+
+    void whatIsNotWrittenToItsEndLeavesTheOldFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<Trouble>("trouble");
+        const QString csv = u"kept.csv"_s;
+        const QString workbook = u"kept.xlsx"_s;
+        QTest::newRow("CSV, none") << csv << Trouble::None;
+        QTest::newRow("CSV, ended at once") << csv << Trouble::EndedAtOnce;
+        QTest::newRow("CSV, ended at the end") << csv << Trouble::EndedAtTheEnd;
+        QTest::newRow("workbook, none") << workbook << Trouble::None;
+        QTest::newRow("workbook, ended at once") << workbook << Trouble::EndedAtOnce;
+        QTest::newRow("workbook, ended at the end") << workbook << Trouble::EndedAtTheEnd;
+#ifdef Q_OS_LINUX
+        QTest::newRow("CSV, full disk") << csv << Trouble::FullDisk;
+        QTest::newRow("CSV, read-only file") << csv << Trouble::ReadOnlyFile;
+        QTest::newRow("workbook, full disk") << workbook << Trouble::FullDisk;
+        QTest::newRow("workbook, full temporary disk") << workbook << Trouble::FullTemporaryDisk;
+        QTest::newRow("workbook, read-only file") << workbook << Trouble::ReadOnlyFile;
+#endif
+    }
+
+    void whatIsNotWrittenToItsEndLeavesTheOldFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(Trouble, trouble);
+        const QTemporaryDir folder;
+        QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+        QFile old(folder.filePath(name));
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+        old.close();
+        QCOMPARE(writeInTrouble(old.fileName(), trouble), trouble == Trouble::None);
+        QCOMPARE(content(old.fileName()) == "old", trouble != Trouble::None);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {name});
     }
 };
 

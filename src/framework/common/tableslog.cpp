@@ -1,0 +1,3 @@
+#include "framework/common/tableslog.h"
+
+Q_LOGGING_CATEGORY(tablesLog, "spinbar.tables")

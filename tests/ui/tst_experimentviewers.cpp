@@ -1,0 +1,198 @@
+#include "ui/experimenttable.h"
+#include "ui/experimentviewer.h"
+#include "ui/multiexperimentviewer.h"
+
+#include "core/experimentfolder.h"
+#include "core/spinbarrecord.h"
+#include "framework/common/widgets/stylehelper.h"
+#include "scripts/widgets/speedscriptviewer.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QTest>
+
+#include <cmath>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A run of 40 s at a steady speed, on the instrument's clock from a minute on.
+void writeRun(const ExperimentFolder &folder)
+{
+    QList<std::pair<qint64, qint64>> samples;
+    for (int i = 0; i <= 200; ++i)
+        samples.append({60'000 + i * 200, i * 600});
+    folder.writeLog(samples);
+}
+
+QStringList texts(const QTableWidget &table, int row)
+{
+    QStringList list;
+    for (int column = 0; column < table.columnCount(); ++column)
+        list += table.item(row, column) ? table.item(row, column)->text() : u"-"_s;
+    return list;
+}
+
+int pixelsOf(const QImage &picture, QRgb color)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixel(x, y) == color ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace
+
+class TestExperimentViewers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cellIsShownByItsKind_data()
+    {
+        QTest::addColumn<QString>("firstHeader");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QVariant>("cell");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Qt::AlignmentFlag>("side");
+        QTest::addColumn<bool>("icon");
+        QTest::addColumn<QString>("toolTip");
+        const auto row = [](const char *name, const QString &header, int column, const QVariant &cell,
+                            const QString &text, Qt::AlignmentFlag side, bool icon = false,
+                            const QString &toolTip = {}) {
+            QTest::newRow(name) << header << column << cell << text << side << icon << toolTip;
+        };
+        const QString date = u"Date"_s;
+        row("number", date, 1, 1.5, u"1.500"_s, Qt::AlignRight);
+        row("rounded number", date, 0, 2.0 / 3, u"0.667"_s, Qt::AlignRight);
+        row("not a number", date, 1, std::nan(""), u"0.000"_s, Qt::AlignRight);
+        row("infinite", date, 1, -HUGE_VAL, u"0.000"_s, Qt::AlignRight);
+        row("whole number", date, 1, 12, u"12"_s, Qt::AlignRight);
+        row("text", date, 0, u"7"_s, u"7"_s, Qt::AlignLeft);
+        row("text under a number sign", u"№"_s, 0, u"7"_s, u"7"_s, Qt::AlignRight);
+        row("the same in English", u"#"_s, 0, u"7"_s, u"7"_s, Qt::AlignRight);
+        row("text beside it", u"#"_s, 1, u"7"_s, u"7"_s, Qt::AlignLeft);
+        row("number sign", date, 1, u"#"_s, u"#"_s, Qt::AlignRight);
+        row("mean", date, 1, u"M"_s, u"M"_s, Qt::AlignRight, false, u"Average value"_s);
+        row("dispersion", date, 0, u"D"_s, u"D"_s, Qt::AlignRight, false, u"Dispersion"_s);
+        row("deviation", date, 1, u"CKO"_s, u"CKO"_s, Qt::AlignRight, false, u"Standard deviation"_s);
+        row("the same in English", date, 1, u"σ"_s, u"σ"_s, Qt::AlignRight, false, u"Standard deviation"_s);
+        row("long label", date, 1, u"M - average value"_s, u"M - average value"_s, Qt::AlignLeft);
+        row("mouse", date, 0, u"{M} 00:01-00:02 [7]"_s, u"00:01-00:02 [7]"_s, Qt::AlignLeft, true);
+        row("rat", date, 1, u"{R} x {R}"_s, u"x {R}"_s, Qt::AlignLeft, true);
+        row("other brace", date, 1, u"{X} x"_s, u"{X} x"_s, Qt::AlignLeft);
+    }
+
+    void cellIsShownByItsKind()
+    {
+        QFETCH(QString, firstHeader);
+        QFETCH(int, column);
+        QFETCH(QVariant, cell);
+        QTableWidget table;
+        QList<QVariant> row{u"a"_s, u"b"_s};
+        row[column] = cell;
+        fillTable(&table, {{firstHeader, u"b"_s}, row, {}});
+        QCOMPARE(table.rowCount(), 2);
+        const QTableWidgetItem *item = table.item(0, column);
+        QTEST(item->text(), "text");
+        QTEST(Qt::AlignmentFlag(item->textAlignment() & Qt::AlignHorizontal_Mask), "side");
+        QTEST(!item->icon().isNull(), "icon");
+        QTEST(item->toolTip(), "toolTip");
+        QCOMPARE(item->foreground().style() != Qt::NoBrush, !item->toolTip().isEmpty());
+        QVERIFY(item->textAlignment() & Qt::AlignVCenter);
+        QVERIFY(!(item->flags() & Qt::ItemIsEditable));
+        QVERIFY(!table.item(1, 0));
+    }
+
+    void headersFillTheWidth()
+    {
+        QTableWidget table;
+        fillTable(&table, {{u"#"_s, u"b"_s, u"c"_s}, {}, {1, 2, 3}});
+        fillTable(&table, {{u"Date"_s, u"Title"_s}, {1, 2}});
+        QCOMPARE(table.columnCount(), 2);
+        QCOMPARE(table.horizontalHeaderItem(1)->text(), u"Title"_s);
+        QVERIFY(table.verticalHeader()->isHidden());
+        QCOMPARE(table.horizontalHeader()->sectionResizeMode(0), QHeaderView::ResizeToContents);
+        QCOMPARE(table.horizontalHeader()->sectionResizeMode(1), QHeaderView::Stretch);
+        fillTable(&table, {});
+        QCOMPARE(table.rowCount(), 0);
+    }
+
+    void labelsFollowTheTheme()
+    {
+        const std::unique_ptr<QTableWidget> table(createExperimentTable(u"Results"_s));
+        fillTable(table.get(), {{u"a"_s, u"b"_s}, {}, {u"M"_s, u"x"_s}});
+        StyleHelper::Instance()->setCustomValue(u"--n-sub-text"_s, u"#123456"_s);
+        emit StyleHelper::Instance()->changed();
+        QCOMPARE(table->item(1, 0)->foreground().color(), QColor(0x12, 0x34, 0x56));
+        QCOMPARE(table->item(1, 1)->foreground().style(), Qt::NoBrush);
+    }
+
+    void oneExperimentIsATableAndAGraph()
+    {
+        const ExperimentFolder folder;
+        writeRun(folder);
+        auto record = std::make_unique<SpinbarRecord>(folder.path(), QDateTime());
+        record->addItem(61'000, 71'000, 1500, 6, false, {});
+        record->addItem(62'000, 82'000, 3000, 0, false, {});
+        ExperimentViewer viewer;
+        viewer.resize(600, 600);
+        viewer.setRecord(record.get());
+        QCOMPARE(viewer.record(), record.get());
+        const auto *table = viewer.findChild<QTableWidget *>();
+        QCOMPARE(table->rowCount(), 2 + 1 + 3);
+        // The motor makes 3 turns a second; the drum of the mice has 0.04 m of diameter.
+        QCOMPARE(texts(*table, 0), QStringList({u"1"_s, u"00:01-00:11 [7]"_s, u"10.000"_s, u"0.188"_s,
+                                                u"1.500"_s, u"0.377"_s, u"0.377"_s}));
+        QCOMPARE(texts(*table, 2), QStringList(7, u"-"_s));
+        QCOMPARE(texts(*table, 3).first(3), QStringList({u""_s, u"M"_s, u"15.000"_s}));
+
+        auto *graph = viewer.findChild<SpeedScriptViewer *>();
+        QVERIFY2(graph->accessibleDescription().startsWith(u"0–40 s"),
+                 qPrintable(graph->accessibleDescription()));
+        const QImage picture = viewer.grab().toImage();
+        QVERIFY(pixelsOf(picture, 0xFF33CC00) > 100);
+        QVERIFY(pixelsOf(picture, 0xFF115599) > 100);
+        constexpr int RowsOfMice = 7;
+        constexpr int RowHeight = 20;
+        QVERIFY(graph->height() - graph->plotRectangle().bottom() > RowsOfMice * RowHeight);
+
+        viewer.setRecord(nullptr);
+        QCOMPARE(table->rowCount(), 0);
+        QCOMPARE(pixelsOf(viewer.grab().toImage(), 0xFF33CC00), 0);
+        QVERIFY(!record->isStatusLoaded());
+        viewer.setRecord(record.get());
+        record.reset();
+        QVERIFY(!viewer.record());
+    }
+
+    void summaryNeedsTwoExperiments()
+    {
+        const ExperimentFolder first;
+        const ExperimentFolder second;
+        writeRun(first);
+        SpinbarRecord rats(first.path(), {});
+        rats.addItem(60'000, 70'000, 1500, 0, true, {});
+        rats.setTitle(u"Group A"_s);
+        SpinbarRecord none(second.path(), {});
+        MultiExperimentViewer viewer;
+        const auto *table = viewer.findChild<QTableWidget *>();
+        viewer.setRecords({&rats});
+        QCOMPARE(viewer.records().size(), 1);
+        QCOMPARE(table->rowCount(), 0);
+        viewer.setRecords({&rats, &none});
+        QCOMPARE(table->rowCount(), 2 + 1 + 3);
+        QCOMPARE(texts(*table, 0).first(5), QStringList({u"Rat 7"_s, u"Group A"_s, {}, u"1"_s, u"10.000"_s}));
+        QCOMPARE(texts(*table, 3).mid(3, 2), QStringList({u"M"_s, u"5.000"_s}));
+        QVERIFY(!rats.isStatusLoaded());
+        viewer.setRecords({});
+        QCOMPARE(table->rowCount(), 0);
+    }
+};
+
+QTEST_MAIN(TestExperimentViewers)
+#include "tst_experimentviewers.moc"
