@@ -21,7 +21,7 @@ constexpr QRgb DimmedFallback = 0xFFCCCCCC;
 /// What "Index" is called in the languages that have a short sign for it.
 bool isNumberSign(const QString &text)
 {
-    return text == "#"_L1 || text == "№"_L1;
+    return text == "#"_L1 || text == u"№";
 }
 
 /// Of the label of a row of statistics; empty for any other text.
