@@ -3,6 +3,7 @@
 #include "framework/common/texthelper.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
+#include "framework/common/widgets/tablecopy.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -61,8 +62,9 @@ QTableWidgetItem *createItem(const QVariant &cell, bool ofNumberColumn)
     bool right = true;
     item->setText(text);
     if (cell.typeId() == QMetaType::Double) {
-        const double value = cell.toDouble();
-        item->setText(TextHelper::numToStr(std::isfinite(value) ? value : 0.0, Decimals));
+        const double value = std::isfinite(cell.toDouble()) ? cell.toDouble() : 0.0;
+        item->setText(TextHelper::numToStr(value, Decimals));
+        item->setData(TableCopy::NumberRole, value);
     } else if (cell.typeId() != QMetaType::Int) {
         const QString description = statisticsDescription(text);
         item->setToolTip(description);
@@ -118,6 +120,7 @@ QTableWidget *createExperimentTable(const QString &accessibleName)
     auto *table = new QTableWidget;
     table->setAccessibleName(accessibleName);
     table->setTabKeyNavigation(false);
+    TableCopy::install(table);
     QObject::connect(StyleHelper::Instance(), &StyleHelper::Styler::changed, table,
                      [table] { dimAgain(*table); });
     return table;

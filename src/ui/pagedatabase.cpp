@@ -1,5 +1,7 @@
 #include "ui/pagedatabase.h"
 
+#include "ui/experimentviewer.h"
+#include "ui/multiexperimentviewer.h"
 #include "ui/pagebar.h"
 #include "ui/recordstable.h"
 
@@ -55,6 +57,7 @@ PageDatabase::PageDatabase(QWidget *parent)
     , m_library(SpinbarModel::instance()->recordsFolder())
     , m_settings(SpinbarModel::instance()->settings())
     , m_records(new ExperimentRecords(this))
+    , m_exporter(SpinbarModel::instance(), this)
 {
     createTable();
     createStack();
@@ -102,14 +105,18 @@ QWidget *PageDatabase::createSinglePage()
 {
     m_dateLabel = UIHelper::GenerateLabelWithName({}, u"subtext"_s);
     m_dateLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_singleViewer = new ExperimentViewer;
     auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
-    return PageBar::below(new QWidget, {m_dateLabel, nullptr, exporter});
+    connect(exporter, &QPushButton::clicked, this, [this] { exportExperiments(true); });
+    return PageBar::below(m_singleViewer, {m_dateLabel, nullptr, exporter});
 }
 
 QWidget *PageDatabase::createMultiPage()
 {
+    m_multiViewer = new MultiExperimentViewer;
     auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
-    return PageBar::below(new QWidget, {nullptr, exporter});
+    connect(exporter, &QPushButton::clicked, this, [this] { exportExperiments(false); });
+    return PageBar::below(m_multiViewer, {nullptr, exporter});
 }
 
 QWidget *PageDatabase::createTableSide()
@@ -152,7 +159,14 @@ void PageDatabase::showEvent(QShowEvent *event)
 
 void PageDatabase::clear()
 {
+    clearViewers();
     m_records->clear();
+}
+
+void PageDatabase::clearViewers()
+{
+    m_singleViewer->setRecord(nullptr);
+    m_multiViewer->setRecords({});
 }
 
 void PageDatabase::reload()
@@ -174,6 +188,7 @@ void PageDatabase::restoreSort()
 
 void PageDatabase::manageSelection()
 {
+    clearViewers();
     const QStringList paths = m_table->selectedPaths();
     m_table->markWholeRows();
     m_dateLabel->clear();
@@ -190,6 +205,7 @@ void PageDatabase::manageSelection()
 
 void PageDatabase::showSingle(SpinbarRecord *record)
 {
+    m_singleViewer->setRecord(record);
     if (record->timestamp() != 0)
         m_dateLabel->setText(TextHelper::DateTimeFileString(
             QDateTime::fromMSecsSinceEpoch(record->timestamp()).toLocalTime(), true));
@@ -204,6 +220,15 @@ void PageDatabase::showSeveral(const QStringList &paths)
             records.append(record);
     }
     m_stack->setCurrentWidget(m_multiPage);
+    m_multiViewer->setRecords(records);
+}
+
+void PageDatabase::exportExperiments(bool single)
+{
+    QList<SpinbarRecord *> records = m_multiViewer->records();
+    if (single)
+        records = m_singleViewer->record() ? QList{m_singleViewer->record()} : QList<SpinbarRecord *>();
+    m_exporter.exportRecords(records);
 }
 
 void PageDatabase::applyEdit(const QTableWidgetItem *cell)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "ui/experimentexporter.h"
+
 #include "core/experimentlibrary.h"
 #include "core/experimentrecords.h"
-
 #include "framework/common/connectionhelper.h"
 
 #include <QPointer>
@@ -11,6 +12,8 @@
 class QLabel;
 class QStackedWidget;
 class QTableWidgetItem;
+class ExperimentViewer;
+class MultiExperimentViewer;
 class RecordsTable;
 class SpinbarSettings;
 
@@ -48,9 +51,12 @@ private:
     QWidget *createTableSide();
     void layOut();
     void clear();
+    void clearViewers();
     void restoreSort();
     void showSingle(SpinbarRecord *record);
     void showSeveral(const QStringList &paths);
+    /// What the single page or the one of several shows.
+    void exportExperiments(bool single);
     void applyEdit(const QTableWidgetItem *cell);
     void rename(const QString &path, const QString &newName);
     void refuseName(const QString &path, const QString &oldName, const QString &reason);
@@ -64,6 +70,9 @@ private:
     QStackedWidget *m_stack = nullptr;
     QLabel *m_noDataLabel = nullptr;
     QLabel *m_dateLabel = nullptr;
+    ExperimentViewer *m_singleViewer = nullptr;
+    MultiExperimentViewer *m_multiViewer = nullptr;
+    ExperimentExporter m_exporter;
     QWidget *m_singlePage = nullptr;
     QWidget *m_multiPage = nullptr;
     bool m_needsReload = true;

@@ -5,6 +5,7 @@
 #include "core/experimentfolder.h"
 #include "core/spinbarrecord.h"
 #include "framework/common/widgets/stylehelper.h"
+#include "framework/common/widgets/tablecopy.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
 #include <QHeaderView>
@@ -155,6 +156,9 @@ private slots:
                                                 u"1.500"_s, u"0.377"_s, u"0.377"_s}));
         QCOMPARE(texts(*table, 2), QStringList(7, u"-"_s));
         QCOMPARE(texts(*table, 3).first(3), QStringList({u""_s, u"M"_s, u"15.000"_s}));
+
+        table->item(0, 0)->setSelected(true);
+        QVERIFY(TableCopy::text(*table).startsWith("1\t00:01-00:11 [7]\t10\t0.1884955592153876"_L1));
 
         auto *graph = viewer.findChild<SpeedScriptViewer *>();
         QVERIFY2(graph->accessibleDescription().startsWith(u"0–40 s"),

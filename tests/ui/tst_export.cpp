@@ -1,4 +1,6 @@
 #include "ui/experimentexporter.h"
+#include "ui/pagedatabase.h"
+#include "ui/recordstable.h"
 
 #include "cli/clirun.h"
 #include "core/spinbarmodel.h"
@@ -16,6 +18,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -163,11 +166,16 @@ private slots:
         using namespace WorkbookReader;
         QFETCH(int, count);
         QFETCH(QString, filter);
-        Operator user(&m_page);
+        m_model->settings()->setSortingOrder(Qt::AscendingOrder);
+        PageDatabase page(nullptr);
+        page.show();
+        for (int row = 0; row < count; ++row)
+            page.findChild<RecordsTable *>()->item(row, 0)->setSelected(true);
+        Operator user(&page);
         // The suffix plays no part.
         user.path = m_target->filePath(u"page.xlsx"_s);
         user.filter = filter;
-        exportFirst(count);
+        clickExport(page);
         QCOMPARE(m_model->settings()->getLastExportFolder(), m_target->path());
         QCOMPARE(m_model->settings()->getLastExportFilter(), filter);
 
@@ -319,6 +327,15 @@ private:
         record->setComment(comment);
         record->save();
         m_records.push_back(std::move(record));
+    }
+
+    static void clickExport(const PageDatabase &page)
+    {
+        for (auto *button : page.findChildren<QPushButton *>()) {
+            if (button->isVisible() && button->text() == u"Экспорт"_s)
+                return button->click();
+        }
+        qFatal("no button");
     }
 
     void exportFirst(int count)
