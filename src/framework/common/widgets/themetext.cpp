@@ -8,12 +8,14 @@ namespace {
 
 // Values that name other variables can multiply; a style sheet of ours has a few ten thousand characters.
 constexpr qsizetype MaxSheetLength = 4LL * 1024 * 1024;
+// A value can make its name anew together with its neighbours, and grow the text at each pass.
+constexpr int MaxPasses = 100;
 
 void substitute(QString &text, const QString &name, const QString &value)
 {
     // A value that holds its own name would never come to an end.
     const bool once = value.contains(name);
-    while (text.contains(name)) {
+    for (int pass = 0; pass < MaxPasses && text.contains(name); ++pass) {
         const qsizetype growth = qMax(value.size() - name.size(), 0);
         if (text.size() + text.count(name) * growth > MaxSheetLength)
             return;

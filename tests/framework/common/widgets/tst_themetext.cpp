@@ -65,6 +65,9 @@ private slots:
         for (int i = 0; i < 60; ++i)
             bomb.insert(u"--v%1;"_s.arg(i, 2, 10, '0'_L1), u"--v%1;"_s.arg(i + 1, 2, 10, '0'_L1).repeated(2));
         QVERIFY(ThemeText::substituted(u"--v00;"_s, bomb).size() <= 8 * 1024 * 1024);
+        // The value makes the name anew together with what stands before it.
+        const QString row = QString(1000, 'a'_L1) + 'b'_L1;
+        QVERIFY(ThemeText::substituted(row, {{u"ab"_s, u"bba"_s}}).size() <= 8 * 1024 * 1024);
     }
 };
 
