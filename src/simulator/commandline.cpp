@@ -31,7 +31,9 @@ struct Options
         u"link"_s, u"Symbolic link to the pseudo-terminal (default: a new one in the temporary folder)."_s,
         u"PATH"_s};
     QCommandLineOption serial{
-        u"serial"_s, u"Serial number (default %1); \"\" or 000000 for an instrument that has none yet."_s,
+        u"serial"_s,
+        u"Serial number (default %1); \"\" or 000000 for an instrument that has none yet."_s.arg(
+            InstrumentOptions().serialNumber),
         u"TEXT"_s, InstrumentOptions().serialNumber};
     QCommandLineOption firmware{u"firmware"_s,
                                 u"Firmware version (default %1)."_s.arg(InstrumentOptions().firmware),
