@@ -22,6 +22,9 @@ if(SPINBAR_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(spinbar_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(SPINBAR_FUZZ)
+    target_compile_options(spinbar_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # spinbar_library(<name> SOURCES <files> LINKS <libraries>): the static library of one folder.
 function(spinbar_library name)
