@@ -1,4 +1,6 @@
+#include "core/spinbarmodel.h"
 #include "scripts/speedscript.h"
+#include "scripts/widgets/speedscripteditor.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
 #include <QApplication>
@@ -41,21 +43,17 @@ void paintRecord(benchmark::State &state)
 }
 BENCHMARK(paintRecord)->Arg(1)->Arg(6)->Arg(24)->Unit(benchmark::kMillisecond);
 
-/// One step of the mouse with its repaint. Goal: under 8 ms with 200 points.
-void dragStep(benchmark::State &state)
+ScriptPoints waves(int count)
 {
-    const int count = static_cast<int>(state.range(0));
-    const QTemporaryDir folder;
-    SpeedScript script(folder.filePath(QStringLiteral("script.xml")));
-    script.setDurationSeconds(1000);
     ScriptPoints points;
     for (int i = 0; i < count; ++i)
         points.append({1000.0 * i / count, 15 + 14 * std::sin(i * 0.3)});
-    script.setPointList(points);
+    return points;
+}
 
-    SpeedScriptViewer viewer(&script, true, nullptr);
-    viewer.resize(900, 600);
-    viewer.show();
+/// Drags the point that a press on the left edge makes, one pixel and one repaint at a time.
+void drag(benchmark::State &state, SpeedScriptViewer &viewer)
+{
     QApplication::processEvents(); // exposes the window: only then is anything painted
     const auto mouse = [&viewer](QEvent::Type type, QPoint position) {
         QCursor::setPos(viewer.mapToGlobal(position));
@@ -71,9 +69,41 @@ void dragStep(benchmark::State &state)
         QApplication::processEvents();
     }
     mouse(QEvent::MouseButtonRelease, plot.center());
-    state.counters["points"] = count;
+    state.counters["points"] = static_cast<double>(state.range(0));
+}
+
+/// One step of the mouse with its repaint. Goal: under 8 ms with 200 points.
+void dragStep(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    SpeedScript script(folder.filePath(QStringLiteral("script.xml")));
+    script.setDurationSeconds(1000);
+    script.setPointList(waves(static_cast<int>(state.range(0))));
+    SpeedScriptViewer viewer(&script, true, nullptr);
+    viewer.resize(900, 600);
+    viewer.show();
+    drag(state, viewer);
 }
 BENCHMARK(dragStep)->Arg(10)->Arg(200)->Unit(benchmark::kMillisecond);
+
+/// The same in the widget with the list of scripts and the form over the graph.
+void dragStepInEditor(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    SpinbarModel model(nullptr, folder.path());
+    {
+        SpeedScript script(model.scriptsFolder() + QStringLiteral("script.xml"));
+        script.setDurationSeconds(1000);
+        script.setPointList(waves(static_cast<int>(state.range(0))));
+        script.storePoints();
+        script.save();
+    }
+    SpeedScriptEditor editor(model, nullptr);
+    editor.resize(900, 700);
+    editor.show();
+    drag(state, *editor.findChild<SpeedScriptViewer *>());
+}
+BENCHMARK(dragStepInEditor)->Arg(200)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -24,6 +24,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -75,6 +77,9 @@ void MainWindow::createPages(QHBoxLayout *header)
     m_recordsIndicator = addPage(header, m_database, tr("Записи"), QColor::fromRgb(RecordedColor));
     addPage(header, settings, tr("Настройки"));
     addPage(header, about, tr("О программе"));
+    // After all buttons, so that these come first in the order of the Tab key.
+    for (QWidget *page : std::initializer_list<QWidget *>{device, m_database, settings, about})
+        m_stack->addWidget(page);
     openPage(device, m_pageButtons.constFirst());
 }
 
@@ -94,7 +99,6 @@ NEllipse *MainWindow::addPage(QHBoxLayout *header, QWidget *page, const QString 
     button->setStyleSheet(u"padding: 0"_s);
     header->addWidget(button);
     button->setFixedSize(label->sizeHint() + PageButtonExcess);
-    m_stack->addWidget(page);
     NEllipse *dot = nullptr;
     if (dotColor.isValid()) {
         dot = new NEllipse(dotColor, Qt::transparent, 0, DotSize, DotSize);
@@ -103,6 +107,11 @@ NEllipse *MainWindow::addPage(QHBoxLayout *header, QWidget *page, const QString 
         dot->hide();
     }
     connect(button, &QPushButton::clicked, this, [this, page, button] { openPage(page, button); });
+    // Assistive programs toggle a checkable button; they have no click for it.
+    connect(button, &QPushButton::toggled, this, [this, page, button](bool checked) {
+        if (checked != (m_stack->currentWidget() == page))
+            openPage(page, button);
+    });
     m_pageButtons += button;
     return dot;
 }

@@ -1,20 +1,17 @@
 #include "core/spinbarrecord.h"
+#include "program.h"
 
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int StartTimeoutMs = 20'000;
 constexpr int FailedCode = 1;
 constexpr int LinkLostCode = 4;
 
@@ -24,37 +21,15 @@ QByteArray readFile(const QString &path)
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// A program whose standard output is awaited.
-class Program : public QProcess
+QString simulatorPath()
 {
-public:
-    Program(const char *pathVariable, const QStringList &arguments, const QProcessEnvironment &environment)
-    {
-        setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        setProcessEnvironment(environment);
-        start(qEnvironmentVariable(pathVariable), arguments);
-    }
+    return qEnvironmentVariable("SPINBAR_SIMULATOR");
+}
 
-    ~Program() override
-    {
-        kill();
-        waitForFinished();
-    }
-
-    bool waitForText(const QByteArray &text)
-    {
-        while (!output.contains(text)) {
-            if (!waitForReadyRead(StartTimeoutMs))
-                return false;
-            output += readAllStandardOutput();
-        }
-        return true;
-    }
-
-    void signal(int number) { ::kill(pid_t(processId()), number); }
-
-    QByteArray output;
-};
+QString cliPath()
+{
+    return qEnvironmentVariable("SPINBAR_CLI");
+}
 
 } // namespace
 
@@ -72,13 +47,13 @@ private slots:
 
     void interruptEndsTheRecordingInTheOrdinaryWay()
     {
-        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+        Program simulator(simulatorPath(), {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
         QVERIFY(simulator.waitForText("ready " + port().toUtf8() + '\n'));
-        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        Program recorder(cliPath(), recordArguments(), m_environment);
         QVERIFY(recorder.waitForText(R"("event":"fall")"));
         recorder.signal(SIGINT);
         QVERIFY(recorder.waitForText(R"("event":"stopped")"));
-        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QVERIFY(recorder.waitForFinished(Program::TimeoutMs));
         QCOMPARE(recorder.exitCode(), 0);
         SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
         QVERIFY(record.load());
@@ -86,22 +61,22 @@ private slots:
         QVERIFY(record.firstDeviceTime() > 0);
 
         simulator.signal(SIGTERM);
-        QVERIFY(simulator.waitForFinished(StartTimeoutMs));
+        QVERIFY(simulator.waitForFinished(Program::TimeoutMs));
         QCOMPARE(simulator.exitCode(), 0);
         QVERIFY(!QFileInfo(port()).isSymLink());
     }
 
     void fullDiskIsToldAndKeepsWhatIsThere()
     {
-        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+        Program simulator(simulatorPath(), {u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
         QVERIFY(simulator.waitForText("ready "));
         // A limit on the size of files refuses a write as a full disk does: in the middle of a line.
         QProcess recorder;
         recorder.setProcessEnvironment(m_environment);
         const QString limited = u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s;
-        recorder.start(u"sh"_s, QStringList{u"-c"_s, limited, qEnvironmentVariable("SPINBAR_CLI")}
-                                    + recordArguments() + QStringList{u"--duration"_s, u"3"_s});
-        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        recorder.start(u"sh"_s, QStringList{u"-c"_s, limited, cliPath()} + recordArguments()
+                                    + QStringList{u"--duration"_s, u"3"_s});
+        QVERIFY(recorder.waitForFinished(Program::TimeoutMs));
         QCOMPARE(recorder.exitCode(), FailedCode);
         QVERIFY(recorder.readAllStandardError().contains(recordedFolder().toUtf8()
                                                          + "status.log': File too large"));
@@ -116,12 +91,12 @@ private slots:
 
     void killedRecorderLosesAtMostTheLineInFlight()
     {
-        Program simulator("SPINBAR_SIMULATOR", {u"--link"_s, port(), u"--rate"_s, u"200"_s}, m_environment);
+        Program simulator(simulatorPath(), {u"--link"_s, port(), u"--rate"_s, u"200"_s}, m_environment);
         QVERIFY(simulator.waitForText("ready "));
-        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        Program recorder(cliPath(), recordArguments(), m_environment);
         QVERIFY(recorder.waitForText(R"("event":"fall")"));
         recorder.signal(SIGKILL);
-        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QVERIFY(recorder.waitForFinished(Program::TimeoutMs));
 
         SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
         QVERIFY(record.load());
@@ -140,13 +115,13 @@ private slots:
     void endOfTheInstrumentEndsTheRecording()
     {
         auto simulator = std::make_unique<Program>(
-            "SPINBAR_SIMULATOR", QStringList{u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
+            simulatorPath(), QStringList{u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
         QVERIFY(simulator->waitForText("ready "));
-        Program recorder("SPINBAR_CLI", recordArguments(), m_environment);
+        Program recorder(cliPath(), recordArguments(), m_environment);
         QVERIFY(recorder.waitForText(R"("event":"found")"));
         simulator.reset();
         QVERIFY(recorder.waitForText(R"("event":"stopped")"));
-        QVERIFY(recorder.waitForFinished(StartTimeoutMs));
+        QVERIFY(recorder.waitForFinished(Program::TimeoutMs));
         QCOMPARE(recorder.exitCode(), LinkLostCode);
         SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
         QVERIFY(record.load());
@@ -155,9 +130,9 @@ private slots:
     void messagesFollowTheLanguage()
     {
         QProcess program;
-        program.start(qEnvironmentVariable("SPINBAR_CLI"),
+        program.start(cliPath(),
                       {u"--language"_s, u"ru_RU"_s, u"--data"_s, m_folder->path(), u"table"_s, u"gone"_s});
-        QVERIFY(program.waitForFinished(StartTimeoutMs));
+        QVERIFY(program.waitForFinished(Program::TimeoutMs));
         QCOMPARE(program.exitCode(), 1);
         QCOMPARE(QString::fromUtf8(program.readAllStandardError()).trimmed(),
                  u"spinbar-cli: «gone»: нет такого эксперимента"_s);

@@ -45,10 +45,10 @@ public:
     Q_DISABLE_COPY_MOVE(OperatorBench)
 
     /// True when the instrument has told all that it tells at first.
-    bool plugIn(QByteArray scenario = {}, bool powered = true)
+    bool plugIn(QByteArray scenario = {}, bool powered = true, double rate = Rate)
     {
         SimulatedInstrumentOptions options;
-        options.rate = Rate;
+        options.rate = rate;
         options.linkPath = data.filePath(QStringLiteral("port"));
         options.instrument.powered = powered;
         QBuffer buffer(&scenario);

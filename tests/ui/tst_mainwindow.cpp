@@ -9,6 +9,7 @@
 #include "framework/settings/languagecontext.h"
 #include "operatorbench.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
 
@@ -44,6 +45,12 @@ private slots:
             QCOMPARE(bench.button(title)->isChecked(), title == SettingsPage);
         bench.click(SettingsPage);
         QVERIFY(bench.button(SettingsPage)->isChecked());
+        // As a screen reader does, there and once more.
+        for (int i = 0; i < 2; ++i) {
+            bench.button(RecordsPage)->toggle();
+            QVERIFY(bench.window->findChild<PageDatabase *>()->isVisible());
+            QVERIFY(bench.button(RecordsPage)->isChecked() && !bench.button(SettingsPage)->isChecked());
+        }
     }
 
     void dotsTellOfRecordings()
@@ -123,6 +130,26 @@ private slots:
                  kept == SpinbarSettings::en_US ? u"en_US"_s : u"ru_RU"_s);
     }
 
+    void restartNowStartsTheProgramAgain()
+    {
+        LanguageContext::setLanguage(u"en_US"_s);
+        OperatorBench bench;
+        SpinbarSettings *settings = bench.model->settings();
+        OperatorBench::answerNext(u"Not now"_s);
+        settings->setLanguage(SpinbarSettings::en_US);
+        const QString started = QCoreApplication::arguments().constFirst() + ".started"_L1;
+        QVERIFY(!QFile::exists(started));
+        QTimer::singleShot(0, this, [settings] {
+            OperatorBench::answerNext(u"OK"_s);
+            settings->setLanguage(SpinbarSettings::ru_RU);
+        });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QTRY_VERIFY(QFile::exists(started));
+        SpinbarSettings stored(settings->getFilepath(), nullptr);
+        stored.reload();
+        QCOMPARE(stored.getLanguage(), SpinbarSettings::ru_RU);
+    }
+
     void keysReachTheServiceTools_data()
     {
         QTest::addColumn<Qt::Key>("key");
@@ -152,5 +179,21 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMainWindow)
+/// The application takes a script for itself, so that its restart can be seen.
+int main(int argc, char **argv)
+{
+    const QTemporaryDir folder;
+    QFile script(folder.filePath(u"spinbar"_s));
+    if (!script.open(QFile::WriteOnly) || script.write("#!/bin/sh\ntouch \"$0.started\"\n") < 0)
+        return 1;
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    QByteArray path = script.fileName().toUtf8();
+    char *own[] = {path.data(), nullptr};
+    int ownCount = 1;
+    const QApplication application(ownCount, own);
+    TestMainWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_mainwindow.moc"

@@ -19,6 +19,9 @@ constexpr double FillOpacity = 0.2;
 constexpr int TickLength = 2;
 constexpr int LabelGap = 4; // between a marker's centre and its label
 constexpr int TimeDecimals = 1;
+constexpr int LeastContrast = 100; // of 255 steps of gray
+constexpr int PlateMargin = 3;     // left and right of a number on its plate
+constexpr double PlateRadius = 3;
 const QString WidestNumber = u"10000.0000 "_s;
 
 QString generic(const char *text)
@@ -29,6 +32,12 @@ QString generic(const char *text)
 QString timeUnit()
 {
     return generic("seconds");
+}
+
+/// The dark theme writes dark on the bars.
+bool isLegible(const QColor &text, const QColor &background)
+{
+    return std::abs(qGray(text.rgb()) - qGray(background.rgb())) >= LeastContrast;
 }
 
 QColor themeColor(const QString &name, const QPen &fallback)
@@ -157,6 +166,13 @@ void GraphPainter::drawBar(const QRect &rect, int number)
     // A number that is cut off could be taken for another one.
     if (m_painter.fontMetrics().horizontalAdvance(text) > rect.width())
         return;
+    const QRect plate =
+        m_painter.boundingRect(rect, Qt::AlignCenter, text).adjusted(-PlateMargin, 0, PlateMargin, 0);
+    if (!isLegible(m_palette.barText.color(), m_palette.line.color())) {
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(m_palette.text.color());
+        m_painter.drawRoundedRect(plate.intersected(rect), PlateRadius, PlateRadius);
+    }
     m_painter.setPen(m_palette.barText);
     m_painter.drawText(rect, Qt::AlignCenter, text);
 }

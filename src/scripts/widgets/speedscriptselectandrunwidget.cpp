@@ -60,7 +60,11 @@ QList<QWidget *> SpeedScriptSelectAndRunWidget::bottomRowWidgets()
     addDependentWidget(m_runButton);
     addDependentWidget(m_stopButton);
     connect(m_runButton, &QPushButton::clicked, this, [this] { setRunning(true); });
-    connect(m_stopButton, &QPushButton::clicked, this, [this] { setRunning(false); });
+    // Not its click, which assistive programs have no way to give to a checkable button.
+    connect(m_stopButton, &QPushButton::toggled, this, [this](bool checked) {
+        if (!checked && m_player->isRunning())
+            setRunning(false);
+    });
     connectPlayer();
     setRunning(false);
     return {m_runButton, m_stopButton, nullptr, m_cycleLabel};

@@ -129,6 +129,10 @@ private slots:
         QVERIFY(run->isVisible() && labelWith(runner, u"Cycle"_s).isEmpty());
         run->click();
         QVERIFY(stop->isChecked());
+        m_line->take();
+        stop->toggle(); // as a screen reader does
+        QVERIFY(m_line->waitFor("{rotate=0.000}"));
+        QVERIFY(run->isVisible());
     }
 
     void selectionReloadAndDestructionStopTheRun()
