@@ -24,8 +24,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include <initializer_list>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -46,40 +44,38 @@ MainWindow::MainWindow(SpinbarModel *model, QWidget *parent)
     , m_model(model)
 {
     setWindowTitle(QCoreApplication::translate("Generic", "Spinbar") + ' '_L1 + AppHelper::appVersion(true));
-    auto *header = new QWidget;
+    // From the window downwards: what is moved with all its children takes on the style sheet anew.
+    auto *central = new QWidget(this);
+    setCentralWidget(central);
+    auto *header = new QWidget(central);
     StyleHelper::Instance()->setStyledBackground(header, u"--n-sub-bg"_s, Qt::transparent);
     header->setContentsMargins(0, 0, 0, 0);
     auto *headerLayout = new QHBoxLayout(header);
     headerLayout->setContentsMargins(HeaderMargin, HeaderMargin, HeaderMargin, HeaderMargin);
 
-    auto *central = new QWidget;
     central->setContentsMargins(0, 0, 0, 0);
     auto *layout = new QVBoxLayout(central);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_stack = new QStackedWidget;
+    m_stack = new QStackedWidget(central);
     layout->addWidget(header, 0);
     layout->addWidget(m_stack, Filling);
     createPages(headerLayout);
     headerLayout->addStretch(Filling);
-    setCentralWidget(central);
     connectModel();
     setMinimumSize(MinimumSize);
 }
 
 void MainWindow::createPages(QHBoxLayout *header)
 {
-    auto *device = new PageDevice(this);
-    auto *settings = new PageSettings(this);
-    m_database = new PageDatabase(this);
-    auto *about = new PageAbout(this);
+    auto *device = new PageDevice(m_stack);
+    auto *settings = new PageSettings(m_stack);
+    m_database = new PageDatabase(m_stack);
+    auto *about = new PageAbout(m_stack);
     m_deviceIndicator = addPage(header, device, tr("Устройство"), QColor::fromRgb(RecordingColor));
     m_recordsIndicator = addPage(header, m_database, tr("Записи"), QColor::fromRgb(RecordedColor));
     addPage(header, settings, tr("Настройки"));
     addPage(header, about, tr("О программе"));
-    // After all buttons, so that these come first in the order of the Tab key.
-    for (QWidget *page : std::initializer_list<QWidget *>{device, m_database, settings, about})
-        m_stack->addWidget(page);
     openPage(device, m_pageButtons.constFirst());
 }
 
@@ -99,6 +95,7 @@ NEllipse *MainWindow::addPage(QHBoxLayout *header, QWidget *page, const QString 
     button->setStyleSheet(u"padding: 0"_s);
     header->addWidget(button);
     button->setFixedSize(label->sizeHint() + PageButtonExcess);
+    m_stack->addWidget(page);
     NEllipse *dot = nullptr;
     if (dotColor.isValid()) {
         dot = new NEllipse(dotColor, Qt::transparent, 0, DotSize, DotSize);

@@ -12,5 +12,5 @@ PageDevice::PageDevice(QWidget *parent)
     setContentsMargins(0, 0, 0, 0);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new SpinbarController(SpinbarModel::instance()->device(), nullptr));
+    layout->addWidget(new SpinbarController(SpinbarModel::instance()->device(), this));
 }

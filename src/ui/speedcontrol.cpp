@@ -63,7 +63,7 @@ SpeedControl::SpeedControl(SpinbarModel &model, QWidget *parent)
     m_tabs = new QTabWidget;
     layout->addWidget(m_tabs, Filling);
     createManualWidgets();
-    m_runner = new SpeedScriptSelectAndRunWidget(model, nullptr);
+    m_runner = new SpeedScriptSelectAndRunWidget(model, m_tabs);
     m_runner->findChild<SpeedScriptViewer *>()->setMinimumHeight(LeastScriptGraphHeight);
     m_tabs->addTab(m_runner, translated(QT_TRANSLATE_NOOP("SpinbarController", "Script")));
     connectWidgets();
@@ -74,6 +74,7 @@ QLayout *SpeedControl::createTitleRow()
     m_standingIcon =
         ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#666"_s,
                          translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение не осуществляется")));
+    m_standingIcon->animate(false);
     m_rotationIcon =
         ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#FFF"_s,
                          translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение включено")));

@@ -64,9 +64,11 @@ SpinbarController::SpinbarController(CurlySpinbar *device, QWidget *parent)
     createWidgets();
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(createPanel(), 0);
+    layout->addWidget(m_panel, 0);
     layout->addWidget(m_notConnectedLabel, Filling);
-    layout->addWidget(createLaneArea(), Filling);
+    layout->addWidget(m_laneArea, Filling);
+    layOutPanel();
+    createLaneArea();
     connectDevice();
     connectSettings();
     prepare();
@@ -92,32 +94,34 @@ void SpinbarController::updateFirmware()
 
 void SpinbarController::createWidgets()
 {
+    m_panel = new QWidget(this);
+    m_laneArea = new QWidget(this);
     m_notConnectedLabel = new QLabel(tr("Device is not connected"));
     m_notConnectedLabel->setStyleSheet(u"font-size: 20px; color: #999"_s);
     m_notConnectedLabel->setAlignment(Qt::AlignCenter);
-    m_connectionBar = new ConnectionBar(m_device);
-    m_rodentBox = new QComboBox;
+    m_connectionBar = new ConnectionBar(m_device, m_panel);
+    m_rodentBox = new QComboBox(m_panel);
     m_rodentBox->addItem(QIcon(u":/resources/images/rat.png"_s),
                          QCoreApplication::translate("RodentMode", "Rats"));
     m_rodentBox->addItem(QIcon(u":/resources/images/mouse.png"_s),
                          QCoreApplication::translate("RodentMode", "Mice"));
     m_rodentBox->setAccessibleName(QCoreApplication::translate("Generic", "RodentMode"));
     m_calibrationButton = new CalibrationButton(m_device, m_settings, this);
-    m_grid = new GridControl(m_device);
-    m_speed = new SpeedControl(*m_model);
+    m_calibrationButton->setParent(m_panel);
+    m_grid = new GridControl(m_device, m_panel);
+    m_speed = new SpeedControl(*m_model, m_panel);
     m_recordButton = bigButton(tr("Record"));
     m_recordButton->setIcon(MediaHelper::icon(u":/icons/record.svg"_s));
     m_stopButton = bigButton(tr("Stop"));
     StyleHelper::SetButtonIcon(m_stopButton, u":/icons/stop.svg"_s, u"#FFF"_s);
 }
 
-QWidget *SpinbarController::createPanel()
+void SpinbarController::layOutPanel()
 {
-    auto *panel = new QWidget;
-    panel->setMinimumWidth(PanelWidth);
-    panel->setContentsMargins(0, 0, 0, 0);
-    StyleHelper::Instance()->setStyledBackground(panel, u"--n-idle-bg"_s, Qt::white);
-    auto *layout = new QVBoxLayout(panel);
+    m_panel->setMinimumWidth(PanelWidth);
+    m_panel->setContentsMargins(0, 0, 0, 0);
+    StyleHelper::Instance()->setStyledBackground(m_panel, u"--n-idle-bg"_s, Qt::white);
+    auto *layout = new QVBoxLayout(m_panel);
     layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
     // The gaps stand below; with more of them the smallest window would not hold everything.
     layout->setSpacing(0);
@@ -133,12 +137,10 @@ QWidget *SpinbarController::createPanel()
     layout->addStretch(Filling);
     layout->addWidget(m_recordButton);
     layout->addWidget(m_stopButton);
-    return panel;
 }
 
-QWidget *SpinbarController::createLaneArea()
+void SpinbarController::createLaneArea()
 {
-    m_laneArea = new QWidget;
     m_laneArea->setContentsMargins(0, 0, 0, 0);
     auto *layout = new QVBoxLayout(m_laneArea);
     auto *row = new QHBoxLayout;
@@ -148,17 +150,16 @@ QWidget *SpinbarController::createLaneArea()
     for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
         row->addWidget(lane);
     layout->addLayout(row, Filling);
-    m_graph = new SpeedScriptViewer(nullptr, false, nullptr);
+    m_graph = new SpeedScriptViewer(nullptr, false, m_laneArea);
     m_graph->setFixedHeight(GraphHeight);
     layout->addWidget(m_graph);
-    return m_laneArea;
 }
 
 QList<RodentStatusWidget *> SpinbarController::createLanes(const QList<SpinbarDetection *> &lanes)
 {
     QList<RodentStatusWidget *> widgets;
     for (SpinbarDetection *lane : lanes)
-        widgets += new RodentStatusWidget(lane, nullptr);
+        widgets += new RodentStatusWidget(lane, m_laneArea);
     return widgets;
 }
 

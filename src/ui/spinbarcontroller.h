@@ -40,8 +40,8 @@ signals:
 
 private:
     void createWidgets();
-    QWidget *createPanel();
-    QWidget *createLaneArea();
+    void layOutPanel();
+    void createLaneArea();
     QList<RodentStatusWidget *> createLanes(const QList<SpinbarDetection *> &lanes);
     void connectDevice();
     void connectSettings();
@@ -67,6 +67,7 @@ private:
     QPushButton *m_recordButton = nullptr;
     QPushButton *m_stopButton = nullptr;
     QLabel *m_notConnectedLabel = nullptr;
+    QWidget *m_panel = nullptr;
     QWidget *m_laneArea = nullptr;
     SpeedScriptViewer *m_graph = nullptr;
     ConnectionHelper m_connections;

@@ -9,6 +9,7 @@
 #include "scripts/widgets/speedscriptselectandrunwidget.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -66,6 +67,8 @@ private slots:
         QVERIFY2(meanLightness(light) > 200 && meanLightness(dark) < 60,
                  qPrintable(u"%1 %2"_s.arg(meanLightness(light)).arg(meanLightness(dark))));
         settings->setColorTheme(StyleHelper::Light);
+        light.save("/tmp/operator-t1.png");
+        dark.save("/tmp/operator-t3.png");
         QCOMPARE(picture(), light);
     }
 
@@ -134,7 +137,7 @@ private slots:
     void floodOfMessagesNeitherFreezesNorGrows()
     {
         constexpr double FloodRate = 200;
-        constexpr int Lines = 5000;
+        constexpr int Lines = 3000;
         constexpr int LongestPauseMs = 500;
         constexpr std::size_t BytesPerLine = 64;
         OperatorBench bench;
@@ -142,31 +145,43 @@ private slots:
         QTRY_VERIFY(SpinbarController::instance()->isEnabled());
         bench.click(u"Record"_s);
         const QString folder = bench.model->currentRecord()->folder();
-        int lines = 0;
-        connect(bench.model->device(), &CurlySpinbar::newStatus, this, [&lines] { ++lines; });
-        QVERIFY(QTest::qWaitFor([&lines] { return lines > Lines / 5; }, 20'000));
+        QVERIFY(waitForLines(bench, Lines));
         const std::size_t before = heapBytes();
-        const int linesBefore = lines;
         qint64 longestPauseMs = 0;
         QElapsedTimer sinceTurn;
-        sinceTurn.start();
         QTimer turns;
         connect(&turns, &QTimer::timeout, this,
                 [&] { longestPauseMs = std::max(longestPauseMs, sinceTurn.restart()); });
-        turns.start(0);
-        QVERIFY(QTest::qWaitFor([&] { return lines >= linesBefore + Lines; }, 30'000));
+        sinceTurn.start();
+        turns.start(1);
+        QVERIFY(waitForLines(bench, Lines));
         turns.stop();
         QVERIFY2(longestPauseMs < LongestPauseMs, qPrintable(QString::number(longestPauseMs)));
-        QVERIFY(heapBytes() <= before + std::size_t(lines - linesBefore) * BytesPerLine);
+        QVERIFY(heapBytes() <= before + Lines * BytesPerLine);
         bench.model->stopRecord();
         SpinbarRecord stored(folder, {});
         QVERIFY(stored.load());
         stored.loadStatus(true);
-        // All of them, and none twice.
         const auto &samples = stored.counters().samples();
+        QVERIFY(samples.size() >= std::size_t(2 * Lines));
         for (std::size_t i = 1; i < samples.size(); ++i)
             QCOMPARE(samples[i].timeMs - samples[i - 1].timeMs, qint64(SpinbarRecord::StatusPeriodMs));
-        QVERIFY(samples.size() >= std::size_t(lines));
+    }
+
+private:
+    /// By an event loop that never sleeps beside what comes.
+    static bool waitForLines(OperatorBench &bench, int count)
+    {
+        constexpr int TimeoutMs = 60'000;
+        QEventLoop loop;
+        int lines = 0;
+        connect(bench.model->device(), &CurlySpinbar::newStatus, &loop, [&] {
+            if (++lines == count)
+                loop.quit();
+        });
+        QTimer::singleShot(TimeoutMs, &loop, &QEventLoop::quit);
+        loop.exec();
+        return lines >= count;
     }
 };
 

@@ -4,8 +4,11 @@
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/svgtext.h"
 
+#include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +16,18 @@ namespace {
 
 constexpr double DisabledOpacity = 0.5;
 
+/// What is built into the program is decoded once, however many widgets show it.
+QImage bitmap(const QString &path)
+{
+    static QHash<QString, QImage> builtIn;
+    if (!path.startsWith(u':'))
+        return QImage(path);
+    if (!builtIn.contains(path))
+        builtIn.insert(path, QImage(path));
+    return builtIn.value(path);
 }
+
+} // namespace
 
 IconWidget::IconWidget(const QString &path, const QString &color, const QSize &size,
                        const QString &colorToReplace, QWidget *parent)
@@ -22,8 +36,7 @@ IconWidget::IconWidget(const QString &path, const QString &color, const QSize &s
     if (path.endsWith(".svg"_L1)) {
         loadDrawing(path, color, colorToReplace);
     } else {
-        m_picture.load(MediaHelper::resourcePath(path));
-        m_naturalSize = m_picture.size();
+        m_bitmapPath = MediaHelper::resourcePath(path);
     }
     if (size.width() > 0 && size.height() > 0)
         setFixedSize(size);
@@ -65,6 +78,10 @@ bool IconWidget::isLive() const
 
 void IconWidget::paintEvent(QPaintEvent *)
 {
+    if (!m_bitmapPath.isEmpty()) {
+        m_picture = bitmap(std::exchange(m_bitmapPath, {}));
+        m_naturalSize = m_picture.size();
+    }
     QPainter painter(this);
     painter.fillRect(rect(), Qt::transparent);
     if (m_naturalSize.isEmpty())

@@ -29,6 +29,7 @@ private:
     void loadDrawing(const QString &path, const QString &color, const QString &colorToReplace);
     bool isLive() const;
 
+    QString m_bitmapPath; ///< until the bitmap is needed
     QImage m_picture;
     QSvgRenderer *m_renderer = nullptr;
     bool m_isAnimated = false;
