@@ -876,6 +876,57 @@ Restart now?</source>
     </message>
 </context>
 <context>
+    <name>SampleScripts</name>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 300 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 300 s after 10 s at 4 rpm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 60 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm, slope of 4 to 40 in 300 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accelerating 5 to 25 rpm in 180 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant 12 rpm for 60 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant 16 rpm for 60 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant 20 rpm for 60 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant 4 rpm for 300 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant 5 rpm for 60 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rats, steps of 3 rpm every 10 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steps of 5 rpm every 30 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsWithLanguage</name>
     <message>
         <source>Language will be changed on program restart</source>
@@ -937,6 +988,10 @@ Restart now?</source>
 <context>
     <name>SpeedScriptEditor</name>
     <message>
+        <source>Add sample scripts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Change script title</source>
         <translation type="unfinished"></translation>
     </message>
@@ -986,6 +1041,10 @@ Restart now?</source>
     </message>
     <message>
         <source>Script with this title already exists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to add sample scripts</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -885,6 +885,57 @@ Restart now?</source>
     </message>
 </context>
 <context>
+    <name>SampleScripts</name>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 300 s</source>
+        <translation>Ускорение от 4 до 30 об. в мин. за 300 с</translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 300 s after 10 s at 4 rpm</source>
+        <translation>Ускорение от 4 до 30 об. в мин. за 300 с, сначала 10 с на 4</translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm in 60 s</source>
+        <translation>Ускорение от 4 до 30 об. в мин. за 60 с</translation>
+    </message>
+    <message>
+        <source>Accelerating 4 to 30 rpm, slope of 4 to 40 in 300 s</source>
+        <translation>Ускорение от 4 до 30 об. в мин., наклон 4–40 за 300 с</translation>
+    </message>
+    <message>
+        <source>Accelerating 5 to 25 rpm in 180 s</source>
+        <translation>Ускорение от 5 до 25 об. в мин. за 180 с</translation>
+    </message>
+    <message>
+        <source>Constant 12 rpm for 60 s</source>
+        <translation>Постоянно 12 об. в мин., 60 с</translation>
+    </message>
+    <message>
+        <source>Constant 16 rpm for 60 s</source>
+        <translation>Постоянно 16 об. в мин., 60 с</translation>
+    </message>
+    <message>
+        <source>Constant 20 rpm for 60 s</source>
+        <translation>Постоянно 20 об. в мин., 60 с</translation>
+    </message>
+    <message>
+        <source>Constant 4 rpm for 300 s</source>
+        <translation>Постоянно 4 об. в мин., 300 с</translation>
+    </message>
+    <message>
+        <source>Constant 5 rpm for 60 s</source>
+        <translation>Постоянно 5 об. в мин., 60 с</translation>
+    </message>
+    <message>
+        <source>Rats, steps of 3 rpm every 10 s</source>
+        <translation>Крысы, ступени по 3 об. в мин. каждые 10 с</translation>
+    </message>
+    <message>
+        <source>Steps of 5 rpm every 30 s</source>
+        <translation>Ступени по 5 об. в мин. каждые 30 с</translation>
+    </message>
+</context>
+<context>
     <name>SettingsWithLanguage</name>
     <message>
         <source>Language will be changed on program restart</source>
@@ -946,6 +997,10 @@ Restart now?</source>
 <context>
     <name>SpeedScriptEditor</name>
     <message>
+        <source>Add sample scripts</source>
+        <translation>Добавить примеры сценариев</translation>
+    </message>
+    <message>
         <source>Change script title</source>
         <translation>Изменённое название сценария</translation>
     </message>
@@ -996,6 +1051,10 @@ Restart now?</source>
     <message>
         <source>Script with this title already exists</source>
         <translation>Сценарий с таким названием уже существует</translation>
+    </message>
+    <message>
+        <source>Unable to add sample scripts</source>
+        <translation>Невозможно добавить примеры сценариев</translation>
     </message>
     <message>
         <source>Unable to clone script</source>

@@ -1,6 +1,7 @@
 #include "scripts/scriptlibrary.h"
 
 #include "framework/common/fileutilities.h"
+#include "scripts/samplescripts.h"
 #include "scripts/speedscript.h"
 
 #include <QFile>
@@ -27,6 +28,19 @@ ScriptLibrary::Outcome logged(ScriptLibrary::Outcome outcome, const QString &pat
 {
     qCWarning(lcLibrary) << outcome << path;
     return outcome;
+}
+
+/// Leaves a file that is there already alone, and none behind that is not whole.
+bool writeNewFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (content.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    const bool whole = FileUtilities::writeAll(file, content) && file.flush();
+    file.close();
+    if (!whole)
+        file.remove();
+    return whole;
 }
 
 } // namespace
@@ -127,4 +141,21 @@ ScriptLibrary::Outcome ScriptLibrary::remove(const QString &title) const
     FileUtilities::createIfNotExists(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     const bool removed = !file.isEmpty() && QFile::moveToTrash(file);
     return removed ? Outcome::Done : logged(Outcome::CannotRemove, file);
+}
+
+ScriptLibrary::Outcome ScriptLibrary::addSamples() const
+{
+    Outcome outcome = Outcome::Done;
+    FileUtilities::createIfNotExists(m_folder);
+    const QStringList taken = titles();
+    for (const SampleScript &sample : sampleScripts()) {
+        if (taken.contains(sample.title, Qt::CaseInsensitive))
+            continue;
+        QFile content(sample.path);
+        const bool added =
+            content.open(QIODevice::ReadOnly) && writeNewFile(filePath(sample.title), content.readAll());
+        if (!added)
+            outcome = logged(Outcome::CannotAddSamples, filePath(sample.title));
+    }
+    return outcome;
 }

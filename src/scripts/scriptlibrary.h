@@ -24,6 +24,7 @@ public:
         CannotCopy,
         CannotRename, ///< also when the new title is in use
         CannotRemove,
+        CannotAddSamples, ///< at least one sample script could not be written
     };
     Q_ENUM(Outcome)
 
@@ -48,6 +49,8 @@ public:
     Outcome rename(const QString &from, const QString &title) const;
     /// Into the system's trash.
     Outcome remove(const QString &title) const;
+    /// Writes those sample scripts whose titles, whatever their case, are free.
+    Outcome addSamples() const;
 
 private:
     QString m_folder; // ends with "/"

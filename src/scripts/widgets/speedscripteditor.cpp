@@ -30,6 +30,7 @@ SpeedScriptEditor::SpeedScriptEditor(SpinbarModel &model, QWidget *parent)
     buildInterface();
     graph()->setMinimumSize(MinGraphSize);
     createOverlay();
+    createSamplesOffer();
     followSettings();
     showRodentMode();
     applyDimension();
@@ -80,6 +81,22 @@ void SpeedScriptEditor::placeOverlay()
 {
     const QSize size = m_overlay->sizeHint();
     m_overlay->setGeometry(graph()->width() - size.width() - OverlayInset, 0, size.width(), size.height());
+}
+
+void SpeedScriptEditor::createSamplesOffer()
+{
+    m_samplesButton = new QPushButton(tr("Add sample scripts"), graph());
+    m_samplesButton->setCursor(Qt::PointingHandCursor);
+    m_samplesButton->setVisible(library().titles().isEmpty());
+    connect(m_samplesButton, &QPushButton::clicked, this, &SpeedScriptEditor::addSampleScripts);
+    connect(graph(), &SpeedScriptViewer::resized, this, &SpeedScriptEditor::placeSamplesOffer);
+}
+
+void SpeedScriptEditor::placeSamplesOffer()
+{
+    QRect place({}, m_samplesButton->sizeHint());
+    place.moveCenter(graph()->rect().center());
+    m_samplesButton->setGeometry(place);
 }
 
 void SpeedScriptEditor::followSettings()
@@ -133,7 +150,7 @@ void SpeedScriptEditor::applyTitle(const QString &from, const QString &title, bo
 {
     if (isNew) {
         library().create(title); // a failure is silent: the list tells
-        reloadList(title);
+        listAnew(title);
         return;
     }
     unloadScript(); // so that the file is free
@@ -145,7 +162,7 @@ void SpeedScriptEditor::applyTitle(const QString &from, const QString &title, bo
                                   tr("Error"));
         return;
     }
-    reloadList(title);
+    listAnew(title);
 }
 
 void SpeedScriptEditor::removeScript()
@@ -159,7 +176,21 @@ void SpeedScriptEditor::removeScript()
     const QString path = script()->getFilepath();
     unloadScript();
     if (library().remove(name) == Outcome::Done)
-        reloadList({});
+        listAnew({});
     else
         AppHelper::warningMessage(tr("Unable to remove file") + ":\r\n"_L1 + path, tr("Error"));
+}
+
+void SpeedScriptEditor::addSampleScripts()
+{
+    const Outcome outcome = library().addSamples();
+    listAnew({});
+    if (outcome != Outcome::Done)
+        AppHelper::warningMessage(tr("Unable to add sample scripts"), tr("Error"));
+}
+
+void SpeedScriptEditor::listAnew(const QString &title)
+{
+    reloadList(title);
+    m_samplesButton->setVisible(library().titles().isEmpty());
 }

@@ -4,6 +4,7 @@
 #include "scripts/widgets/basespeedscriptselectwidget.h"
 
 class PropertyListControl;
+class QPushButton;
 
 /// The library of scripts: edits the chosen one, makes new ones, clones, renames and removes. Every change is
 /// written at once.
@@ -21,6 +22,8 @@ protected:
 private:
     void createOverlay();
     void placeOverlay();
+    void createSamplesOffer();
+    void placeSamplesOffer();
     void followSettings();
     void applyDimension();
     void showRodentMode();
@@ -28,8 +31,11 @@ private:
     void askScriptTitle(QWidget *parent, const QString &startTitle, bool isNew, bool isClone);
     void applyTitle(const QString &from, const QString &title, bool isNew, bool isClone);
     void removeScript();
+    void addSampleScripts();
+    void listAnew(const QString &title);
 
     QWidget *m_overlay = nullptr;
     PropertyListControl *m_rodentModeForm = nullptr;
+    QPushButton *m_samplesButton = nullptr; // shown by an empty library
     ConnectionHelper m_connections;
 };

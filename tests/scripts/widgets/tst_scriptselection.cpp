@@ -210,7 +210,34 @@ private slots:
         QCOMPARE(editor.findChild<QComboBox *>()->count(), 2);
     }
 
+    void emptyLibraryOffersSamples()
+    {
+        SpeedScriptEditor editor(*m_model, nullptr);
+        editor.show();
+        auto *offer = findOffer(editor);
+        QVERIFY(offer && offer->isVisible());
+        offer->click();
+        QVERIFY(!offer->isVisible());
+        const auto *combo = editor.findChild<QComboBox *>();
+        QVERIFY(combo->isEnabled() && combo->count() > 1);
+        QVERIFY(button(editor, u"Rename script"_s)->isEnabled());
+
+        for (const QString &title : ScriptLibrary(m_model->scriptsFolder()).titles().mid(1))
+            QVERIFY(QFile::remove(ScriptLibrary(m_model->scriptsFolder()).filePath(title)));
+        editor.reloadList({});
+        answer(this, {[](QWidget *box) { box->findChild<QPushButton *>()->click(); }});
+        button(editor, u"Remove script"_s)->click();
+        QVERIFY(!combo->isEnabled() && offer->isVisible());
+    }
+
 private:
+    static QPushButton *findOffer(const SpeedScriptEditor &editor)
+    {
+        const QList<QPushButton *> buttons = editor.findChildren<QPushButton *>();
+        const auto found = std::ranges::find(buttons, u"Add sample scripts"_s, &QPushButton::text);
+        return found == buttons.end() ? nullptr : *found;
+    }
+
     void addScript(const QString &title)
     {
         SpeedScript script(ScriptLibrary(m_model->scriptsFolder()).filePath(title));
