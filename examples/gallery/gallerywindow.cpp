@@ -127,7 +127,9 @@ QTabWidget *GalleryWindow::createPages()
 bool GalleryWindow::takePictures(const QString &folder)
 {
     const QDir target(folder);
-    bool saved = target.mkpath(u"."_s);
+    if (!target.mkpath(u"."_s))
+        return false;
+    bool saved = true;
     for (const QString &language : LanguageContext::availableLanguages()) {
         setLanguage(language);
         for (const auto &[theme, name] :

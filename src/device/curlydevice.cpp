@@ -67,7 +67,9 @@ void CurlyDevice::postNextMessage()
 // counters and clock, and would otherwise find those of the last message of a read.
 void CurlyDevice::handleNextMessage()
 {
-    onTextMessage(m_inbox.head());
+    // A copy: what the subclass does may let further messages in.
+    const QString message = m_inbox.head();
+    onTextMessage(message);
     m_inbox.dequeue();
     if (!m_inbox.isEmpty())
         postNextMessage();

@@ -49,7 +49,8 @@ struct Sample
 /// highest and last. What is no number stays only where it makes a gap.
 QList<Sample> reduced(const QList<float> &values, double xStep);
 
-/// Lines through the samples, broken where one is no number; each y is kept between 0 and \a maxY.
+/// Lines through the samples, broken where one is no number and otherwise in pieces that join; each y is kept
+/// between 0 and \a maxY.
 QList<QPolygonF> lines(const QList<Sample> &samples, const Scale &scale, double maxY);
 
 /// The same for samples denser than pixels: a stroke for each pixel column, at least \a penWidth high, which

@@ -119,7 +119,7 @@ void SimpleGraphic::paintLines(QPainter &painter, const PlotGeometry::Scale &sca
                 painter.fillRect(stroke, color);
             continue;
         }
-        painter.setPen(QPen(color, penWidth));
+        painter.setPen(QPen(color, penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         for (const QPolygonF &line : PlotGeometry::lines(it->samples, scale, height()))
             painter.drawPolyline(line);
     }

@@ -284,6 +284,10 @@ private slots:
         QCOMPARE(two, QList<QPolygonF>({QPolygonF({{0, 50}, {20, 0}}), QPolygonF({{60, 60}, {80, 25}})}));
         QVERIFY(lines({{0, 5}}, scale, 60).isEmpty());
         QVERIFY(lines({{0, 5}, {1, NoNumber}, {2, 5}}, scale, 60).isEmpty());
+        const QList<QPolygonF> pieces = lines(reduced(QList<float>(41, 7), 1), scale, 60);
+        QCOMPARE(pieces.size(), 2);
+        QCOMPARE(pieces[0].last(), pieces[1].first());
+        QCOMPARE(pieces[1].last().x(), 40 * scale.xStep());
         QCOMPARE(bar({1, 40}, scale), QRectF(21, 30, 18, 20));
         QCOMPARE(bar({1, Infinite}, scale), QRectF(21, 0, 18, 50));
         QVERIFY(bar({1, NoNumber}, scale).isEmpty());
