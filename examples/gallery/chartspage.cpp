@@ -88,7 +88,7 @@ void ChartsPage::addPlots(QGridLayout *grid)
     SimpleGraphic *many = addPlot(grid, tr("A million points"));
     many->setPoints(withNoise(wave(ManyPoints, 3, 1)));
     many->setFixedYRange(-1.75F, 1.75F);
-    many->setHorizontalPointTickScale(ManyPoints / 4);
+    many->setHorizontalPointTickScale(ManyPoints / 4.0F);
     many->setVerticalPointTickScale(0.5F);
 
     SimpleGraphic *separate = addPlot(grid, tr("Bars of their own colours"));

@@ -281,7 +281,8 @@ private slots:
         const Scale scale{100, 50, {0, 100}, 5};
         const QList<QPolygonF> two =
             lines({{0, 0}, {1, 200}, {2, NoNumber}, {3, -Infinite}, {4, 50}}, scale, 60);
-        QCOMPARE(two, QList<QPolygonF>({QPolygonF({{0, 50}, {20, 0}}), QPolygonF({{60, 60}, {80, 25}})}));
+        QCOMPARE(two,
+                 QList<QPolygonF>({QList<QPointF>{{0, 50}, {20, 0}}, QList<QPointF>{{60, 60}, {80, 25}}}));
         QVERIFY(lines({{0, 5}}, scale, 60).isEmpty());
         QVERIFY(lines({{0, 5}, {1, NoNumber}, {2, 5}}, scale, 60).isEmpty());
         const QList<QPolygonF> pieces = lines(reduced(QList<float>(41, 7), 1), scale, 60);
