@@ -2,7 +2,7 @@
 
 #include "core/spinbarrecord.h"
 
-void ExperimentRecords::read(const QStringList &folders)
+bool ExperimentRecords::read(const QStringList &folders, const WorkStep &step)
 {
     clear();
     m_owner = new QObject(this);
@@ -15,7 +15,10 @@ void ExperimentRecords::read(const QStringList &folders)
         // A folder that is listed twice is one experiment.
         if (SpinbarRecord *&first = m_byPath[record->experimentJsonPath()]; !first)
             first = record;
+        if (!goesOn(step))
+            return false;
     }
+    return true;
 }
 
 void ExperimentRecords::clear()

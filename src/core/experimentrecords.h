@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/common/workstep.h"
+
 #include <QHash>
 #include <QList>
 #include <QObject>
@@ -16,8 +18,9 @@ public:
     using QObject::QObject;
 
     /// One record for each of \a folders in their order, in the place of those before. What a file does not
-    /// tell keeps its default.
-    void read(const QStringList &folders);
+    /// tell keeps its default. \a step is called behind each; false, with the records read so far, if it ends
+    /// the work.
+    bool read(const QStringList &folders, const WorkStep &step = {});
 
     /// The records live on until control returns to the event loop, as a handler may still work with one.
     void clear();

@@ -9,12 +9,13 @@
 #include "core/spinbarmodel.h"
 #include "core/spinbarrecord.h"
 #include "core/spinbarsettings.h"
-#include "framework/common/fileutilities.h"
 #include "framework/common/texthelper.h"
 #include "framework/common/widgets/apphelperdialogs.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/common/widgets/uihelper.h"
+#include "framework/common/widgets/workprogress.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -27,6 +28,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +79,7 @@ PageDatabase::~PageDatabase()
 void PageDatabase::createTable()
 {
     m_table = new RecordsTable;
+    m_table->setAccessibleName(QCoreApplication::translate("MainWindow", "Записи"));
     auto *remover = new QShortcut(QKeySequence(QKeySequence::Delete), m_table);
     remover->setContext(Qt::WidgetShortcut);
     m_tableConnections << connect(remover, &QShortcut::activated, this,
@@ -171,11 +174,29 @@ void PageDatabase::clearViewers()
 
 void PageDatabase::reload()
 {
+    // Timers and queued calls go on while the files are read.
+    if (m_reading) {
+        m_readAgain = true;
+        return;
+    }
     clear();
-    m_records->read(m_library.folders());
+    readRecords();
     restoreSort();
     m_table->fill(m_records->all(), m_settings->getLastExperimentPath());
     manageSelection();
+    if (std::exchange(m_readAgain, false))
+        QMetaObject::invokeMethod(this, &PageDatabase::reload, Qt::QueuedConnection);
+}
+
+void PageDatabase::readRecords()
+{
+    m_reading = true;
+    const QStringList folders = m_library.folders();
+    WorkProgress progress(tr("Reload records"), {}, int(folders.size()), this);
+    // What is missing after a cancelled reading comes with the next showing.
+    if (!m_records->read(folders, [&progress] { return progress.step(); }))
+        m_needsReload = true;
+    m_reading = false;
 }
 
 void PageDatabase::restoreSort()
@@ -314,16 +335,24 @@ void PageDatabase::removeExperiments(const QStringList &paths)
             : u"%1 %2 %3?"_s.arg(tr("Remove")).arg(paths.size()).arg(tr("selected experiments"));
     if (!AppHelper::confirmDialog(tr("Remove"), question, QMessageBox::Question))
         return;
-    bool removed = false;
+    if (moveToTrash(paths))
+        reload();
+}
+
+bool PageDatabase::moveToTrash(const QStringList &paths)
+{
+    bool moved = false;
+    WorkProgress progress(tr("Remove"), {}, int(paths.size()), this);
     for (const QString &path : paths) {
         const QString folder = folderOf(path);
         if (isBeingRecorded(folder))
             qCWarning(recordsLog) << "Not moved to the trash while it is recorded:" << folder;
         else
-            removed |= m_library.remove(folder);
+            moved |= m_library.remove(folder);
+        if (!progress.step())
+            break;
     }
-    if (removed)
-        reload();
+    return moved;
 }
 
 void PageDatabase::openRecordsFolder() const

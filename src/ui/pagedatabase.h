@@ -52,6 +52,7 @@ private:
     void layOut();
     void clear();
     void clearViewers();
+    void readRecords();
     void restoreSort();
     void showSingle(SpinbarRecord *record);
     void showSeveral(const QStringList &paths);
@@ -60,6 +61,8 @@ private:
     void applyEdit(const QTableWidgetItem *cell);
     void rename(const QString &path, const QString &newName);
     void refuseName(const QString &path, const QString &oldName, const QString &reason);
+    /// True if any could be moved; the operator may stop it halfway.
+    bool moveToTrash(const QStringList &paths);
     void showMenu(QPoint position);
     void openRecordsFolder() const;
 
@@ -77,6 +80,8 @@ private:
     QWidget *m_multiPage = nullptr;
     bool m_needsReload = true;
     bool m_sortRestored = false;
+    bool m_reading = false;
+    bool m_readAgain = false;
     /// The table still speaks while it is destroyed, after this has ended.
     ConnectionHelper m_tableConnections;
 };

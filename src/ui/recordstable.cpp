@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int LeastWidth = 200;
 constexpr int LeastSectionWidth = 40;
+constexpr int MostNameWidth = 220;
 // What the screen says differs from the keys.
 constexpr std::array<const char *, RecordsTable::ColumnCount> Keys = {
     QT_TRANSLATE_NOOP("Generic", "Title"), QT_TRANSLATE_NOOP("Generic", "Rodent"),
@@ -52,9 +54,12 @@ RecordsTable::RecordsTable(QWidget *parent)
     // So that Control and a click take a marked row out again.
     setSelectionBehavior(SelectRows);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    setTabKeyNavigation(false);
     setWordWrap(false);
     verticalHeader()->hide();
     horizontalHeader()->setMinimumSectionSize(LeastSectionWidth);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->setHighlightSections(false);
     setHorizontalHeaderLabels(headers());
     for (const Column column : {NameColumn, CountColumn})
         horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
@@ -102,6 +107,11 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
             cell->setIcon(rodentIcon(record.isRat()));
         setItem(row, column, cell);
     }
+}
+
+int RecordsTable::sizeHintForColumn(int column) const
+{
+    return std::min(QTableWidget::sizeHintForColumn(column), MostNameWidth);
 }
 
 QStringList RecordsTable::selectedPaths() const

@@ -35,6 +35,10 @@ public:
     /// A \a column that does not exist becomes the first.
     void setSort(int column, Qt::SortOrder order);
 
+protected:
+    /// A name of any length leaves room for the other columns.
+    int sizeHintForColumn(int column) const override;
+
 private:
     void fillRow(int row, const SpinbarRecord &record);
 };

@@ -1,4 +1,6 @@
 #include "core/experimentlibrary.h"
+#include "core/experimentrecords.h"
+#include "core/spinbarrecord.h"
 
 #include <QDir>
 #include <QFile>
@@ -60,6 +62,20 @@ private slots:
         QVERIFY(!entries[2].rat);
         QVERIFY(ExperimentLibrary(m_root->filePath(u"nowhere"_s)).list().isEmpty());
         QVERIFY(!QFile::exists(m_root->filePath(u"nowhere"_s)));
+    }
+
+    void recordsAreReadUntilTheWorkEnds()
+    {
+        ExperimentRecords records;
+        const QStringList folders{m_records + "a/"_L1, m_records + "b/"_L1, m_records + "b/"_L1};
+        QVERIFY(records.read(folders));
+        QCOMPARE(records.all().size(), 3);
+        QCOMPARE(records.find(m_records + "b/experiment.json"_L1), records.all().at(1));
+        QCOMPARE(records.all().at(1)->title(), u"T"_s);
+        QVERIFY(!records.read(folders, [&records] { return records.all().size() < 2; }));
+        QCOMPARE(records.all().size(), 2);
+        records.clear();
+        QVERIFY(!records.find(m_records + "b/experiment.json"_L1));
     }
 
     void renameHasAnOutcome_data()

@@ -1,4 +1,6 @@
+#include "core/spinbarrecord.h"
 #include "framework/settings/languagecontext.h"
+#include "operatorbench.h"
 #include "recordsbench.h"
 
 #include <QClipboard>
@@ -183,6 +185,25 @@ private slots:
         QVERIFY(bench.cell(folder, 3)->isSelected());
         QCOMPARE(QDir(bench.model->recordsFolder()).count(), 4U);
         QCOMPARE(QDir(bench.data.path()).entryList({u"*rat*"_s}), QStringList());
+    }
+
+    void aRunningRecordingStaysWhereItIs()
+    {
+        OperatorBench bench;
+        QVERIFY(bench.plugIn());
+        bench.model->startRecord({});
+        const QString path = bench.model->currentRecord()->experimentJsonPath();
+        bench.click(u"Records"_s);
+        auto *page = bench.window->findChild<PageDatabase *>();
+        page->findChild<RecordsTable *>()->item(0, 0)->setText(u"other"_s);
+        auto said = OperatorBench::answerNext(u"OK"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(said->value(1), u"Cannot rename experiment"_s);
+        said = OperatorBench::answerNext(u"Yes"_s);
+        page->removeExperiments({path});
+        QCOMPARE(said->value(1), u"Remove selected experiment?"_s);
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(QDir(bench.model->recordsFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
     }
 
     void theSelectionDecidesWhatIsShown()
