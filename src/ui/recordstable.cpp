@@ -19,6 +19,8 @@ namespace {
 constexpr int LeastWidth = 200;
 constexpr int LeastSectionWidth = 40;
 constexpr int MostNameWidth = 220;
+// The theme draws a line around the current cell.
+constexpr int CurrentCellFrame = 4;
 // What the screen says differs from the keys.
 constexpr std::array<const char *, RecordsTable::ColumnCount> Keys = {
     QT_TRANSLATE_NOOP("Generic", "Title"), QT_TRANSLATE_NOOP("Generic", "Rodent"),
@@ -58,7 +60,8 @@ RecordsTable::RecordsTable(QWidget *parent)
     setWordWrap(false);
     verticalHeader()->hide();
     horizontalHeader()->setMinimumSectionSize(LeastSectionWidth);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    // A narrow column shows how its caption begins.
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     setHorizontalHeaderLabels(headers());
     for (const Column column : {NameColumn, CountColumn})
@@ -111,7 +114,7 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
 
 int RecordsTable::sizeHintForColumn(int column) const
 {
-    return std::min(QTableWidget::sizeHintForColumn(column), MostNameWidth);
+    return std::min(QTableWidget::sizeHintForColumn(column) + CurrentCellFrame, MostNameWidth);
 }
 
 QStringList RecordsTable::selectedPaths() const
