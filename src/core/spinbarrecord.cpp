@@ -129,7 +129,7 @@ void SpinbarRecord::releaseStatus()
     if (m_statusLog.isOpen())
         return;
     m_counters.clear();
-    m_speeds.clear();
+    m_speeds = QList<double>(); // clear() would keep the memory
     m_statusLoaded = false;
 }
 

@@ -34,7 +34,7 @@ void StatusCounters::insertOutOfOrder(qint64 timeMs, qint64 counter)
 
 void StatusCounters::clear()
 {
-    m_samples = {};
+    m_samples = Samples(); // "{}" would keep the memory
     m_sorted = 0;
     m_latest = {};
 }

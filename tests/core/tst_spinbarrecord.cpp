@@ -231,6 +231,10 @@ private slots:
         QCOMPARE(record.durationSeconds(), 2.0);
         record.releaseStatus();
         QCOMPARE(record.durationSeconds(), 3.0);
+        record.releaseStatus();
+        QVERIFY(QFile::remove(folder.path() + "status.log"_L1));
+        QCOMPARE(record.counters().samples().capacity(), 0U);
+        QCOMPARE(record.speeds().capacity(), 0);
     }
 };
 
