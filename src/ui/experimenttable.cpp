@@ -7,9 +7,10 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QTableWidget>
 
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,10 @@ namespace {
 constexpr int Decimals = 3;
 constexpr int DimmedRole = Qt::UserRole;
 constexpr QRgb DimmedFallback = 0xFFCCCCCC;
+// Of a column whose texts may be of any length.
+constexpr int GreatestWidth = 160;
+// Around the text of a heading: the style sheet's padding, the line and what the style adds.
+constexpr int HeaderPadding = 16;
 
 /// What "Index" is called in the languages that have a short sign for it.
 bool isNumberSign(const QString &text)
@@ -78,15 +83,9 @@ QTableWidgetItem *createItem(const QVariant &cell, bool ofNumberColumn)
     return item;
 }
 
-void dimAgain(const QTableWidget &table)
+int headerWidth(const QHeaderView &header, const QString &text)
 {
-    for (int row = 0; row < table.rowCount(); ++row) {
-        for (int column = 0; column < table.columnCount(); ++column) {
-            QTableWidgetItem *item = table.item(row, column);
-            if (item && item->data(DimmedRole).toBool())
-                dim(*item);
-        }
-    }
+    return header.fontMetrics().horizontalAdvance(text) + HeaderPadding;
 }
 
 } // namespace
@@ -115,13 +114,81 @@ void fillTable(QTableWidget *table, const QList<QList<QVariant>> &rows)
         header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
-QTableWidget *createExperimentTable(const QString &accessibleName)
+ExperimentTable::ExperimentTable(const QString &accessibleName)
 {
-    auto *table = new QTableWidget;
-    table->setAccessibleName(accessibleName);
-    table->setTabKeyNavigation(false);
-    TableCopy::install(table);
-    QObject::connect(StyleHelper::Instance(), &StyleHelper::Styler::changed, table,
-                     [table] { dimAgain(*table); });
-    return table;
+    setAccessibleName(accessibleName);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
+    TableCopy::install(this);
+    connect(StyleHelper::Instance(), &StyleHelper::Styler::changed, this, &ExperimentTable::dimAgain);
+}
+
+void ExperimentTable::setRows(const QList<QList<QVariant>> &rows)
+{
+    fillTable(this, rows);
+    measureColumns();
+    fitColumns();
+}
+
+void ExperimentTable::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    fitColumns();
+}
+
+void ExperimentTable::measureColumns()
+{
+    m_needed.clear();
+    for (int column = 0; column < columnCount(); ++column) {
+        const int content = sizeHintForColumn(column) + 1; // the line between columns
+        int width = column == 0 ? content : std::min(content, GreatestWidth);
+        for (const QString &word : horizontalHeaderItem(column)->text().split(' '_L1))
+            width = std::max(width, headerWidth(*horizontalHeader(), word));
+        m_needed += width;
+    }
+}
+
+void ExperimentTable::fitColumns()
+{
+    const int sharing = int(m_needed.size()) - 1;
+    if (sharing < 1)
+        return;
+    const int room = viewport()->width() - m_needed.constFirst();
+    const int widest = *std::max_element(m_needed.cbegin() + 1, m_needed.cend());
+    const bool even = room >= sharing * widest;
+    const int needed = std::accumulate(m_needed.cbegin() + 1, m_needed.cend(), 0);
+    const int excess = std::max(room - needed, 0) / sharing;
+    QList<int> widths = m_needed;
+    for (int column = 1; column <= sharing; ++column) {
+        widths[column] = even ? room / sharing : m_needed[column] + excess;
+        horizontalHeader()->setSectionResizeMode(column, even ? QHeaderView::Stretch : QHeaderView::Fixed);
+        if (!even)
+            horizontalHeader()->resizeSection(column, widths[column]);
+    }
+    fitHeader(widths);
+}
+
+/// Headings that are wider than their column stand in two lines.
+void ExperimentTable::fitHeader(const QList<int> &widths)
+{
+    QHeaderView *header = horizontalHeader();
+    int lines = 1;
+    for (int column = 0; column < columnCount(); ++column) {
+        if (headerWidth(*header, horizontalHeaderItem(column)->text()) > widths[column])
+            lines = 2;
+    }
+    header->setFixedHeight(lines * header->fontMetrics().lineSpacing() + HeaderPadding);
+}
+
+void ExperimentTable::dimAgain()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int column = 0; column < columnCount(); ++column) {
+            QTableWidgetItem *cell = item(row, column);
+            if (cell && cell->data(DimmedRole).toBool())
+                dim(*cell);
+        }
+    }
 }

@@ -5,7 +5,6 @@
 #include "core/spinbarrecord.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -18,7 +17,7 @@ constexpr int GraphMinimumHeight = 220;
 
 ExperimentViewer::ExperimentViewer(QWidget *parent)
     : QWidget(parent)
-    , m_table(createExperimentTable(tr("Results")))
+    , m_table(new ExperimentTable(tr("Results")))
     , m_graph(new SpeedScriptViewer(nullptr, false, nullptr))
 {
     setContentsMargins(0, 0, 0, 0);
@@ -32,14 +31,14 @@ ExperimentViewer::ExperimentViewer(QWidget *parent)
 
 void ExperimentViewer::setRecord(SpinbarRecord *record)
 {
-    fillTable(m_table, {});
+    m_table->setRows({});
     m_graph->clearRecord();
     if (m_record && m_record != record)
         m_record->releaseStatus();
     m_record = record;
     if (!record)
         return;
-    fillTable(m_table, record->experimentTable(true));
+    m_table->setRows(record->experimentTable(true));
     m_graph->setTimeSpan(record->durationSeconds());
     m_graph->setSpeedTrace(record->speeds());
     m_graph->setLanes(record->isRat() ? RatLanes : MouseLanes, record->normalizedItems());

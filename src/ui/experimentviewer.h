@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 
-class QTableWidget;
+class ExperimentTable;
 class SpeedScriptViewer;
 class SpinbarRecord;
 
@@ -22,6 +22,6 @@ public:
 
 private:
     QPointer<SpinbarRecord> m_record;
-    QTableWidget *m_table = nullptr;
+    ExperimentTable *m_table = nullptr;
     SpeedScriptViewer *m_graph = nullptr;
 };

@@ -7,7 +7,6 @@
 #include "framework/common/widgets/workprogress.h"
 
 #include <QCoreApplication>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -21,7 +20,7 @@ QString summaryTitle()
 
 MultiExperimentViewer::MultiExperimentViewer(QWidget *parent)
     : QWidget(parent)
-    , m_table(createExperimentTable(summaryTitle()))
+    , m_table(new ExperimentTable(summaryTitle()))
 {
     setContentsMargins(0, 0, 0, 0);
     auto *layout = new QVBoxLayout(this);
@@ -31,7 +30,7 @@ MultiExperimentViewer::MultiExperimentViewer(QWidget *parent)
 
 void MultiExperimentViewer::setRecords(const QList<SpinbarRecord *> &records)
 {
-    fillTable(m_table, {});
+    m_table->setRows({});
     m_records = records;
     if (records.size() < 2)
         return;
@@ -40,5 +39,5 @@ void MultiExperimentViewer::setRecords(const QList<SpinbarRecord *> &records)
     const auto step = [&] { return progress.step() && m_records == records; };
     const auto table = ExperimentStatistics::summaryTable(records, true, step);
     if (m_records == records && !table.isEmpty())
-        fillTable(m_table, table);
+        m_table->setRows(table);
 }

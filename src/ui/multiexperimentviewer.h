@@ -3,7 +3,7 @@
 #include <QList>
 #include <QWidget>
 
-class QTableWidget;
+class ExperimentTable;
 class SpinbarRecord;
 
 /// The summary of several experiments.
@@ -21,5 +21,5 @@ public:
 
 private:
     QList<SpinbarRecord *> m_records;
-    QTableWidget *m_table = nullptr;
+    ExperimentTable *m_table = nullptr;
 };

@@ -130,12 +130,39 @@ private slots:
 
     void labelsFollowTheTheme()
     {
-        const std::unique_ptr<QTableWidget> table(createExperimentTable(u"Results"_s));
-        fillTable(table.get(), {{u"a"_s, u"b"_s}, {}, {u"M"_s, u"x"_s}});
+        ExperimentTable table(u"Results"_s);
+        table.setRows({{u"a"_s, u"b"_s}, {}, {u"M"_s, u"x"_s}});
         StyleHelper::Instance()->setCustomValue(u"--n-sub-text"_s, u"#123456"_s);
         emit StyleHelper::Instance()->changed();
-        QCOMPARE(table->item(1, 0)->foreground().color(), QColor(0x12, 0x34, 0x56));
-        QCOMPARE(table->item(1, 1)->foreground().style(), Qt::NoBrush);
+        QCOMPARE(table.item(1, 0)->foreground().color(), QColor(0x12, 0x34, 0x56));
+        QCOMPARE(table.item(1, 1)->foreground().style(), Qt::NoBrush);
+    }
+
+    void numbersAreNeverCut_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<bool>("even");
+        QTest::addColumn<bool>("scrolls");
+        QTest::newRow("wide") << 900 << true << false;
+        QTest::newRow("narrow") << 330 << false << false;
+        QTest::newRow("too narrow") << 200 << false << true;
+    }
+
+    void numbersAreNeverCut()
+    {
+        QFETCH(int, width);
+        QFETCH(bool, even);
+        ExperimentTable table(u"Results"_s);
+        table.resize(width, 300);
+        table.setRows({{u"#"_s, u"Interval"_s, u"N"_s, u"N"_s},
+                       {u"1"_s, u"{R} 00:00:01-00:00:59 [1]"_s, 123456.789, 1.5}});
+        table.show();
+        for (int column = 0; column < table.columnCount(); ++column) {
+            const QString text = table.item(0, column)->text();
+            QVERIFY(table.columnWidth(column) > table.fontMetrics().horizontalAdvance(text));
+        }
+        QCOMPARE(table.horizontalHeader()->sectionResizeMode(1) == QHeaderView::Stretch, even);
+        QTEST(table.horizontalHeader()->length() > table.viewport()->width(), "scrolls");
     }
 
     void oneExperimentIsATableAndAGraph()

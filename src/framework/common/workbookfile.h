@@ -6,10 +6,7 @@
 /// Workbooks as the library for them makes them.
 namespace WorkbookFile {
 
-/// \a step is called behind each sheet. False if that ends it, or if the file is not whole.
+/// \a step is called behind each sheet. False if that ends it, or if not every cell is found in the file.
 bool write(const QList<XLSXHelper::Sheet> &sheets, const QString &path, const WorkStep &step);
-
-/// Whether the parts of the archive can be unpacked and end where they must.
-bool isWhole(const QString &path);
 
 } // namespace WorkbookFile

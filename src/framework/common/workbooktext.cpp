@@ -3,9 +3,6 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QVariant>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -58,12 +55,6 @@ QString acceptableName(const QString &wanted)
 }
 
 } // namespace
-
-QString WorkbookText::ofCell(const QVariant &cell)
-{
-    const bool floating = cell.typeId() == QMetaType::Double || cell.typeId() == QMetaType::Float;
-    return floating && !std::isfinite(cell.toDouble()) ? u"0"_s : cell.toString();
-}
 
 QString WorkbookText::cell(const QString &text)
 {

@@ -3,13 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-class QVariant;
-
 /// Texts in the form that spreadsheet programs accept.
 namespace WorkbookText {
-
-/// As plain text; a number that is not finite is 0.
-QString ofCell(const QVariant &cell);
 
 /// At most 32767 UTF-16 units, without what XML can't hold, and safe from being read as an escape.
 QString cell(const QString &text);

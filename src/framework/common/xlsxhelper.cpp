@@ -11,6 +11,7 @@
 #include <QTextCodec>
 #include <QTextStream>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -55,6 +56,12 @@ bool copyInto(QFileDevice &target, const QString &sourcePath)
     return true;
 }
 
+QString cellText(const QVariant &cell)
+{
+    const bool floating = cell.typeId() == QMetaType::Double || cell.typeId() == QMetaType::Float;
+    return floating && !std::isfinite(cell.toDouble()) ? u"0"_s : cell.toString();
+}
+
 /// Nothing if \a step ends it.
 std::optional<QByteArray> csvText(const QList<XLSXHelper::Sheet> &sheets, const QString &separator,
                                   const QString &lineEnd, const WorkStep &step)
@@ -66,7 +73,7 @@ std::optional<QByteArray> csvText(const QList<XLSXHelper::Sheet> &sheets, const 
         stream << name << lineEnd;
         for (const QList<QVariant> &row : rows) {
             for (const QVariant &cell : row)
-                stream << WorkbookText::ofCell(cell) << separator;
+                stream << cellText(cell) << separator;
             stream << lineEnd;
         }
         stream << lineEnd << lineEnd;
@@ -101,9 +108,7 @@ bool XLSXHelper::dataToXLSX(const QList<Sheet> &sheets, const QString &path, con
         return false;
     const QTemporaryDir folder;
     const QString workbook = folder.filePath(u"workbook.xlsx"_s);
-    // The library does not notice when the disk gets too full for its own temporary files.
-    return folder.isValid() && WorkbookFile::write(sheets, workbook, step) && WorkbookFile::isWhole(workbook)
-           && goesOn(step)
+    return folder.isValid() && WorkbookFile::write(sheets, workbook, step) && goesOn(step)
            && writeWhole(path, [&workbook](QFileDevice &file) { return copyInto(file, workbook); });
 }
 
