@@ -124,7 +124,8 @@ bool isClosed(const QByteArray &xml)
     qsizetype rootEnd = root;
     while (rootEnd < xml.size() && !std::strchr(" \t\r\n/>", xml.at(rootEnd)))
         ++rootEnd;
-    return root > 0 && xml.trimmed().endsWith("</" + xml.mid(root, rootEnd - root) + '>');
+    const QByteArray end = "</" + xml.mid(root, rootEnd - root) + '>';
+    return root > 0 && xml.last(std::min(xml.size(), end.size() + 2)).trimmed().endsWith(end);
 }
 
 /// The library does not notice when the disk gets too full for the temporary files that it packs.
