@@ -88,6 +88,18 @@ int headerWidth(const QHeaderView &header, const QString &text)
     return header.fontMetrics().horizontalAdvance(text) + HeaderPadding;
 }
 
+/// The least in which it stands in two lines.
+int twoLineWidth(const QHeaderView &header, const QString &text)
+{
+    int least = headerWidth(header, text);
+    for (qsizetype blank = text.indexOf(' '_L1); blank >= 0; blank = text.indexOf(' '_L1, blank + 1)) {
+        const int first = headerWidth(header, text.first(blank));
+        const int second = headerWidth(header, text.sliced(blank + 1));
+        least = std::min(least, std::max(first, second));
+    }
+    return least;
+}
+
 } // namespace
 
 void fillTable(QTableWidget *table, const QList<QList<QVariant>> &rows)
@@ -143,10 +155,9 @@ void ExperimentTable::measureColumns()
     m_needed.clear();
     for (int column = 0; column < columnCount(); ++column) {
         const int content = sizeHintForColumn(column) + 1; // the line between columns
-        int width = column == 0 ? content : std::min(content, GreatestWidth);
-        for (const QString &word : horizontalHeaderItem(column)->text().split(' '_L1))
-            width = std::max(width, headerWidth(*horizontalHeader(), word));
-        m_needed += width;
+        const int width = column == 0 ? content : std::min(content, GreatestWidth);
+        const QString heading = horizontalHeaderItem(column)->text();
+        m_needed += std::max(width, twoLineWidth(*horizontalHeader(), heading));
     }
 }
 
