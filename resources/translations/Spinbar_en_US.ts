@@ -8,6 +8,11 @@
         <translation>1 Primernaya Street, Obraztsovsk, 000000</translation>
     </message>
     <message>
+        <source>С днём рождения!</source>
+        <translatorcomment>The source text stands.</translatorcomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Тел.: +7 (000) 555-01-23</source>
         <translation>Phone: +7 (000) 555-01-23</translation>
     </message>

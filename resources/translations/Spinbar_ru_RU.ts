@@ -8,6 +8,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>С днём рождения!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Тел.: +7 (000) 555-01-23</source>
         <translation type="unfinished"></translation>
     </message>

@@ -12,6 +12,7 @@
 #include "framework/common/apphelper.h"
 #include "framework/common/widgets/apphelperdialogs.h"
 #include "framework/common/widgets/nellipse.h"
+#include "framework/common/widgets/newversionbutton.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/settings/languagecontext.h"
 
@@ -62,6 +63,9 @@ MainWindow::MainWindow(SpinbarModel *model, QWidget *parent)
     layout->addWidget(m_stack, Filling);
     createPages(headerLayout);
     headerLayout->addStretch(Filling);
+    headerLayout->addWidget(
+        new NewVersionButton(QCoreApplication::translate("Generic", "New version") + ' '_L1, {}, nullptr), 0,
+        Qt::AlignRight);
     connectModel();
     setMinimumSize(MinimumSize);
 }

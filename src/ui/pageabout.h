@@ -8,5 +8,5 @@ class PageAbout : public QWidget
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit PageAbout(QWidget *parent);
 };

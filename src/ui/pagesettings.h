@@ -2,11 +2,14 @@
 
 #include <QWidget>
 
-/// The application's settings.
+/// The application's settings and the door to the library of scripts.
 class PageSettings : public QWidget
 {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit PageSettings(QWidget *parent);
+
+private:
+    void openScriptEditor();
 };

@@ -18,4 +18,7 @@ QString executableSuffix();
 /// Starts a program that is told as one line with its arguments, double quotes around what holds blanks.
 void startCommandLine(QProcess &process, const QString &line);
 
+/// The system with its version as its users call it: "Windows 11", "Debian GNU/Linux 12 (bookworm)".
+QString systemTitle();
+
 } // namespace Platform

@@ -3,6 +3,7 @@
 #include "framework/common/processlist.h"
 
 #include <QProcess>
+#include <QSysInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -19,4 +20,9 @@ QString Platform::executableSuffix()
 void Platform::startCommandLine(QProcess &process, const QString &line)
 {
     process.startCommand(line);
+}
+
+QString Platform::systemTitle()
+{
+    return QSysInfo::prettyProductName();
 }

@@ -3,6 +3,7 @@
 #include "framework/common/processlist.h"
 
 #include <QProcess>
+#include <QSysInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -30,4 +31,9 @@ void Platform::startCommandLine(QProcess &process, const QString &line)
     // A program name that begins with a quote reaches the system as it is, arguments and all, so the quotes
     // stand exactly where the line has them.
     process.start(line);
+}
+
+QString Platform::systemTitle()
+{
+    return "Windows "_L1 + QSysInfo::productVersion();
 }
