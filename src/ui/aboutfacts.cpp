@@ -3,6 +3,7 @@
 #include "framework/common/apphelper.h"
 #include "framework/common/fileutilities.h"
 #include "framework/common/platform.h"
+#include "framework/common/widgets/mediahelper.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,7 +24,8 @@ QString withDetail(const QString &text, const QString &detail)
 
 QString balloon()
 {
-    const QString image = AppHelper::findInResources(u"balloon.png"_s);
+    // Rich text knows resources by their path only.
+    const QString image = MediaHelper::resourcePath(AppHelper::findInResources(u"balloon.png"_s));
     if (image.isEmpty())
         return u"\U0001F388"_s;
     const QString greeting = QCoreApplication::translate("AboutAppWidget", "С днём рождения!");
