@@ -68,6 +68,13 @@ namespace {
     QT_TRANSLATE_NOOP("Generic", "Dispersion"), QT_TRANSLATE_NOOP("Generic", "Standard deviation"),
 };
 
+// Units of the graph.
+[[maybe_unused]] constexpr const char *GraphTexts[] = {
+    QT_TRANSLATE_NOOP("Generic", "rps"),     QT_TRANSLATE_NOOP("Generic", "rpm"),
+    QT_TRANSLATE_NOOP("Generic", "cm/s"),    QT_TRANSLATE_NOOP("Generic", "km/h"),
+    QT_TRANSLATE_NOOP("Generic", "seconds"),
+};
+
 // The question before a change of language is put in the running and in the chosen language.
 [[maybe_unused]] constexpr const char *LanguageChangeTexts[] = {
     QT_TRANSLATE_NOOP("Generic", "Language change"),

@@ -92,11 +92,13 @@ AboutAppWidget::AboutAppWidget(const QString &company, const QStringList &links,
     setContentsMargins({});
     auto *root = new QGridLayout(this);
     root->setContentsMargins({});
-    auto *viewer = new NScrollViewer(Qt::Vertical);
+    auto *viewer = new NScrollViewer(Qt::Vertical, this);
     viewer->setTransparentBackground();
     root->addWidget(viewer, 0, 0);
 
+    // Added before it is filled: what is moved with all its children takes on the style sheet anew.
     auto *content = new QWidget;
+    viewer->add(content);
     content->setContentsMargins(0, TopMargin, 0, 0);
     auto *grid = new QGridLayout(content);
     grid->setContentsMargins(SideMargin, 0, SideMargin, SideMargin);
@@ -114,7 +116,6 @@ AboutAppWidget::AboutAppWidget(const QString &company, const QStringList &links,
         addRow(grid, generic(QT_TRANSLATE_NOOP("Generic", "Developers")), names);
     }
     grid->setRowStretch(grid->rowCount(), Filling);
-    viewer->add(content);
 }
 
 void AboutAppWidget::addButtons(QGridLayout *grid, const QString &manualLink, const QString &apiLink)

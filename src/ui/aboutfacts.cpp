@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QNetworkInterface>
 #include <QSysInfo>
@@ -37,8 +38,9 @@ QString balloon()
 
 QStringList AboutFacts::manualFolders()
 {
+    // The second is named from where the program's folder stands, unless it is a whole path.
     const QString program = QCoreApplication::applicationDirPath();
-    return {program, program + "/../share/doc/spinbar"_L1};
+    return {program, QDir(program + "/.."_L1).filePath(QStringLiteral(SPINBAR_DOC_FOLDER))};
 }
 
 QString AboutFacts::manual(const QStringList &folders, const QString &language)

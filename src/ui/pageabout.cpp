@@ -29,5 +29,5 @@ PageAbout::PageAbout(QWidget *parent)
         {tr("Иван Примеров"), birthday(u"2000-06-23"_s)},  {tr("Мария Условная"), birthday(u"2000-08-30"_s)},
         {tr("Олег Тестов"), birthday(u"2000-10-11"_s)},    {tr("Пётр Вымыслов"), birthday(u"2000-12-05"_s)}};
     layout->addWidget(
-        new AboutAppWidget(tr("ООО «Лаборатория Примерова»"), links, {}, {}, developers, false, nullptr));
+        new AboutAppWidget(tr("ООО «Лаборатория Примерова»"), links, {}, {}, developers, false, this));
 }

@@ -36,8 +36,8 @@ PageSettings::PageSettings(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->addWidget(button, 0, Qt::AlignLeft);
-    layout->addWidget(
-        new PropertyListControl(SpinbarModel::instance()->settings(), {}, PropertyListControl::ViewMode_All));
+    layout->addWidget(new PropertyListControl(SpinbarModel::instance()->settings(), {},
+                                              PropertyListControl::ViewMode_All, this));
 }
 
 void PageSettings::openScriptEditor()

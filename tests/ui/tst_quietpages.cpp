@@ -7,7 +7,6 @@
 #include "operatorbench.h"
 #include "scripts/widgets/speedscripteditor.h"
 
-#include <QCheckBox>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
@@ -79,20 +78,6 @@ private slots:
                               u"Показать значения ИК"_s}));
     }
 
-    void settingIsStoredAtOnce()
-    {
-        OperatorBench bench;
-        bench.click(u"Настройки"_s);
-        const auto boxes = bench.window->findChild<PageSettings *>()->findChildren<QCheckBox *>();
-        QCOMPARE(boxes.size(), 2);
-        QVERIFY(boxes.at(0)->isVisible() && !bench.model->settings()->getShowIR());
-        boxes.at(1)->click();
-        QVERIFY(bench.model->settings()->getShowIR());
-        SpinbarSettings stored(bench.model->settings()->getFilepath(), nullptr);
-        stored.reload();
-        QVERIFY(stored.getShowIR());
-    }
-
     void scriptEditorOpensOverTheSettings()
     {
         OperatorBench bench;
@@ -152,14 +137,6 @@ private slots:
         const QString image = text.section('"'_L1, 1, 1);
         QVERIFY(text.contains(image + "\" width=\"10\" height=\"14\" title=\""_L1));
         QVERIFY2(QFile::exists(image), qPrintable(image)); // so must rich text find it
-    }
-
-    void factsAreOfThisMachine()
-    {
-        QVERIFY(AboutFacts::system().contains(u"-бит <span"_s));
-        QVERIFY(AboutFacts::system().contains(QSysInfo::kernelVersion().toHtmlEscaped()));
-        QVERIFY(!AboutFacts::addresses().contains("127.0.0.1"_L1));
-        QVERIFY(!AboutFacts::addresses().contains(':'_L1));
     }
 
     void panelOpensWhatItNames()
