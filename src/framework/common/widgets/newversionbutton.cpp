@@ -18,7 +18,7 @@ constexpr auto DefaultStyle =
 
 NewVersionButton::NewVersionButton(const QString &preliminaryText, const QString &style, QWidget *parent)
     : QWidget(parent)
-    , m_button(new QPushButton)
+    , m_button(new QPushButton(preliminaryText))
     , m_checker(new NewVersionChecker(preliminaryText, this))
 {
     auto *layout = new QGridLayout(this);
