@@ -1241,4 +1241,124 @@ hold and drag to desired position</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>SpinbarWriterWidget</name>
+    <message>
+        <source>Current coefficient, mA - max current for the 255 value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CurrentCoeff</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device writer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generate serial number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Motor acceleration coeffient, RPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Motor calibration coeffient - a multiplier of speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Motor deceleration coeffient, RPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MotorAcc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MotorCoeff</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MotorDec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refill the list of ports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SN:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number in format &apos;B4YYMMBNN&apos; where:
+&apos;YY&apos; - year code,
+&apos;MM&apos;-month code,
+&apos;B&apos; - batch code,
+&apos;NN&apos; - number in batch
+(e.g. &apos;B2403101&apos; was built in March, 2024 first in first batch)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number is generated as follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number should start with &apos;B&apos;, continue?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for previous transaction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for Spinbar, version 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for batch number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for current month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for current year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the number of device in the batch</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

@@ -1253,4 +1253,129 @@ hold and drag to desired position</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>SpinbarWriterWidget</name>
+    <message>
+        <source>Current coefficient, mA - max current for the 255 value</source>
+        <translation>Коэффициент тока, мА — наибольший ток при значении 255</translation>
+    </message>
+    <message>
+        <source>CurrentCoeff</source>
+        <translation>Коэфф. тока</translation>
+    </message>
+    <message>
+        <source>Device writer</source>
+        <translation>Запись параметров прибора</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Gen</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Generate serial number</source>
+        <translation>Создать серийный номер</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Motor acceleration coeffient, RPM</source>
+        <translation>Коэффициент ускорения мотора, об/мин</translation>
+    </message>
+    <message>
+        <source>Motor calibration coeffient - a multiplier of speed</source>
+        <translation>Калибровочный коэффициент мотора — множитель скорости</translation>
+    </message>
+    <message>
+        <source>Motor deceleration coeffient, RPM</source>
+        <translation>Коэффициент замедления мотора, об/мин</translation>
+    </message>
+    <message>
+        <source>MotorAcc</source>
+        <translation>Ускорение мотора</translation>
+    </message>
+    <message>
+        <source>MotorCoeff</source>
+        <translation>Коэфф. мотора</translation>
+    </message>
+    <message>
+        <source>MotorDec</source>
+        <translation>Замедление мотора</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Порт</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Прочитать</translation>
+    </message>
+    <message>
+        <source>Refill the list of ports</source>
+        <translation>Заполнить список портов заново</translation>
+    </message>
+    <message>
+        <source>SN:</source>
+        <translation>Сер. №:</translation>
+    </message>
+    <message>
+        <source>Serial number in format &apos;B4YYMMBNN&apos; where:
+&apos;YY&apos; - year code,
+&apos;MM&apos;-month code,
+&apos;B&apos; - batch code,
+&apos;NN&apos; - number in batch
+(e.g. &apos;B2403101&apos; was built in March, 2024 first in first batch)</source>
+        <translation>Серийный номер в виде &apos;B4YYMMBNN&apos;, где:
+&apos;YY&apos; - год,
+&apos;MM&apos; - месяц,
+&apos;B&apos; - партия,
+&apos;NN&apos; - номер в партии
+(например, &apos;B2403101&apos; собран в марте 2024 года первым в первой партии)</translation>
+    </message>
+    <message>
+        <source>Serial number is generated as follows</source>
+        <translation>Серийный номер составлен так</translation>
+    </message>
+    <message>
+        <source>Serial number should start with &apos;B&apos;, continue?</source>
+        <translation>Серийный номер должен начинаться с &apos;B&apos;, продолжить?</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Версия:</translation>
+    </message>
+    <message>
+        <source>Waiting for previous transaction</source>
+        <translation>Ещё не закончен предыдущий обмен</translation>
+    </message>
+    <message>
+        <source>Write %1</source>
+        <translation>Записать: %1</translation>
+    </message>
+    <message>
+        <source>for Spinbar, version 4</source>
+        <translation>для Спинбара версии 4</translation>
+    </message>
+    <message>
+        <source>for batch number</source>
+        <translation>номер партии</translation>
+    </message>
+    <message>
+        <source>for current month</source>
+        <translation>текущий месяц</translation>
+    </message>
+    <message>
+        <source>for current year</source>
+        <translation>текущий год</translation>
+    </message>
+    <message>
+        <source>for the number of device in the batch</source>
+        <translation>номер прибора в партии</translation>
+    </message>
+</context>
 </TS>

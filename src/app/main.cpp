@@ -1,3 +1,5 @@
+#include "app/servicetools.h"
+
 #include "ui/mainwindow.h"
 
 #include "core/spinbarmodel.h"
@@ -55,6 +57,7 @@ int main(int argc, char **argv)
     SpinbarModel model;
     StyleHelper::InterlinkTheme(model.settings(), u"ColorTheme"_s);
     MainWindow window(&model, nullptr);
+    const ServiceTools tools(&model, &window);
     if (model.settings()->getStartMaximized())
         window.showMaximized();
     else
