@@ -22,7 +22,7 @@ namespace {
 
 constexpr QSize ReloadIconSize{24, 24};
 constexpr QSize ReloadButtonSize{32, 32};
-constexpr QSize ConsoleMinimumSize{480, 200};
+constexpr QSize ConsoleMinimumSize{600, 220};
 /// Parameters move in steps of this or less are shown with two decimals.
 constexpr double FineStep = 0.01;
 const QString Unread = u"?"_s;
@@ -37,6 +37,13 @@ void addLabel(QGridLayout *layout, const QString &text, QWidget *buddy, const QS
     buddy->setToolTip(tooltip);
     layout->addWidget(label, layout->rowCount(), LabelColumn);
     layout->addWidget(buddy, layout->rowCount() - 1, FieldColumn);
+}
+
+/// Without a text, so that its lowest value is not taken for the instrument's.
+void markUnread(QDoubleSpinBox *box)
+{
+    box->clear();
+    box->setEnabled(false);
 }
 
 } // namespace
@@ -71,8 +78,10 @@ void SpinbarWriterWidget::createPortRow(QGridLayout *layout)
     reload->setFixedSize(ReloadButtonSize);
     reload->setAccessibleName(tr("Refill the list of ports"));
     QPushButton *read = addButton(tr("Read"));
-    layout->addWidget(m_portBox, 0, LabelColumn, 1, 2);
-    layout->addWidget(reload, 0, FirstButtonColumn);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_portBox, 1);
+    row->addWidget(reload);
+    layout->addLayout(row, 0, LabelColumn, 1, SecondButtonColumn);
     layout->addWidget(read, 0, SecondButtonColumn);
     connect(reload, &QPushButton::clicked, this, &SpinbarWriterWidget::fillPorts);
     connect(read, &QPushButton::clicked, this, &SpinbarWriterWidget::readAll);
@@ -106,7 +115,7 @@ void SpinbarWriterWidget::createParameterRows(QGridLayout *layout)
         box->setDecimals(parameter.step <= FineStep ? 2 : 1);
         box->setRange(parameter.lowest, parameter.highest);
         box->setSingleStep(parameter.step);
-        box->setEnabled(false);
+        markUnread(box);
         addLabel(layout, tr(parameter.name) + ':'_L1, box, tr(parameter.tooltip));
         QPushButton *write = addButton(u">"_s);
         write->setAccessibleName(tr("Write %1").arg(tr(parameter.name)));
@@ -152,7 +161,7 @@ void SpinbarWriterWidget::readAll()
     m_serialNumber->setText(Unread);
     m_version->setText(Unread);
     for (QDoubleSpinBox *box : std::as_const(m_parameters))
-        box->setEnabled(false);
+        markUnread(box);
     for (QPushButton *button : std::as_const(m_writeButtons))
         button->setEnabled(false);
     expect(m_writer.readAll(port()));

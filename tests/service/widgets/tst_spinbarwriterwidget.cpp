@@ -75,6 +75,7 @@ private slots:
             SpinbarWriterWidget widget;
             const QPushButton *write = button(widget, u"Write MotorCoeff"_s);
             QVERIFY(!box(widget, 0)->isEnabled() && !write->isEnabled());
+            QCOMPARE(box(widget, 0)->text(), QString());
             button(widget, u"Read"_s)->click();
             QCOMPARE(text(widget, false), u"?"_s);
             QCOMPARE(text(widget, true), u"?"_s);
@@ -109,7 +110,9 @@ private slots:
         button(widget, u"Read"_s)->click();
         QTRY_VERIFY(box(widget, 3)->isEnabled());
         QCOMPARE(box(widget, 0)->value(), 2.0);
+        // As low as what the box holds unread.
         QCOMPARE(box(widget, 1)->value(), 0.5);
+        QVERIFY(!box(widget, 1)->text().isEmpty());
         QVERIFY(!box(widget, 2)->isEnabled());
         QCOMPARE(box(widget, 3)->value(), 1.26);
     }

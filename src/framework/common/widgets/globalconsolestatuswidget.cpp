@@ -1,5 +1,6 @@
 #include "framework/common/widgets/globalconsolestatuswidget.h"
 
+#include "framework/common/widgets/stylehelper.h"
 #include "framework/common/widgets/uihelper.h"
 
 #include "framework/common/globalconsole.h"
@@ -12,6 +13,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 enum Column { NameColumn, ValueColumn };
+
+QString nameStyle()
+{
+    const QString color = u"#036"_s;
+    return "color: "_L1
+           + (StyleHelper::Instance()->isDark() ? StyleHelper::ReadableColor(color).name() : color);
+}
 
 QLabel *plainLabel(const QString &text)
 {
@@ -46,6 +54,7 @@ GlobalConsoleStatusWidget::GlobalConsoleStatusWidget(ViewType type, QWidget *par
         connect(console, &GlobalConsole::statusCleared, this, &GlobalConsoleStatusWidget::refill,
                 Qt::QueuedConnection);
     }
+    connect(StyleHelper::Instance(), &StyleHelper::Styler::changed, this, &GlobalConsoleStatusWidget::refill);
     refill();
 }
 
@@ -62,7 +71,7 @@ void GlobalConsoleStatusWidget::refill()
         m_type == Averages ? GlobalConsole::getAverageNames() : GlobalConsole::getStatusNames();
     for (int row = 0; row < names.size(); ++row) {
         QLabel *name = plainLabel(names[row]);
-        name->setStyleSheet(u"color: #036"_s);
+        name->setStyleSheet(nameStyle());
         QLabel *value = plainLabel({});
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_grid->addWidget(name, row, NameColumn);

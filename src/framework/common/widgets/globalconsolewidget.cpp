@@ -1,8 +1,11 @@
 #include "framework/common/widgets/globalconsolewidget.h"
 
+#include "framework/common/widgets/stylehelper.h"
+
 #include "framework/common/globalconsole.h"
 
 #include <QCloseEvent>
+#include <QRegularExpression>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -23,6 +26,16 @@ constexpr int SingleEntries = 10;
 bool isPlain(const QString &line)
 {
     return !line.contains(u'<') && !line.contains(u'&');
+}
+
+/// The colours that entries name are meant for a light ground.
+QString withReadableColors(QString html)
+{
+    static const QRegularExpression named(u"(?<=color:) *(#?\\w+)"_s);
+    const QRegularExpressionMatch match = named.match(html);
+    if (const QColor color(match.captured(1)); color.isValid())
+        html.replace(match.capturedStart(), match.capturedLength(), StyleHelper::ReadableColor(color).name());
+    return html;
 }
 
 /// Lines as HTML shows them when a "<br>" follows each.
@@ -50,7 +63,7 @@ public:
             return;
         }
         flush();
-        m_cursor.insertHtml(line);
+        m_cursor.insertHtml(withReadableColors(line));
     }
 
     void endLine() { m_plain += QChar::LineSeparator; }

@@ -184,6 +184,13 @@ QColor ThemeColor(const QString &name, const QColor &fallback)
     return Instance()->getThemeColor(name, fallback);
 }
 
+QColor ReadableColor(const QColor &color)
+{
+    if (!Instance()->isDark() || color.lightnessF() >= 0.5)
+        return color;
+    return QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), 1 - color.lightnessF());
+}
+
 QString ThemeValue(const QString &name, const QString &fallback)
 {
     return Instance()->getThemeValue(name, fallback);

@@ -81,6 +81,8 @@ Styler *Instance();
 
 QColor ThemeColor(const QString &name, const QColor &fallback);
 QString ThemeValue(const QString &name, const QString &fallback);
+/// A colour chosen for a light ground, as light as it has to be in the theme in force.
+QColor ReadableColor(const QColor &color);
 
 /// As the theme in force needs it; it doesn't follow later changes.
 QIcon ColoredIcon(const QString &path, const QString &darkColor);

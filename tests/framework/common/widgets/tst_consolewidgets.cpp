@@ -2,6 +2,7 @@
 #include "framework/common/widgets/globalconsolestatuswidget.h"
 #include "framework/common/widgets/globalconsoletotalwidget.h"
 #include "framework/common/widgets/globalconsolewidget.h"
+#include "framework/common/widgets/stylehelper.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -101,6 +102,30 @@ private slots:
         QTRY_COMPARE(widget.toPlainText().count("late"_L1), 50);
         QVERIFY2(timer.elapsed() < LimitMs, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(widget.toPlainText().count("entry"_L1), 2 * Entries);
+    }
+
+    void coloursAreReadableInBothThemes_data()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("light") << u"light"_s << u"#115599"_s << u"color: #036"_s;
+        QTest::newRow("dark") << u"dark"_s << u"#66aaee"_s << u"color: #99ccff"_s;
+    }
+
+    void coloursAreReadableInBothThemes()
+    {
+        QFETCH(QString, theme);
+        StyleHelper::Instance()->addThemeFile(u":/themes/%1.css"_s.arg(theme), theme);
+        StyleHelper::Instance()->selectTheme(theme);
+        GlobalConsole::setStatus(u"a"_s, u"b"_s);
+        write(u"<span style='color: #159'>x</span>"_s);
+        const GlobalConsoleWidget entries;
+        const GlobalConsoleStatusWidget statuses(GlobalConsoleStatusWidget::Status, nullptr);
+        QTextCursor cursor(entries.document());
+        cursor.setPosition(int(entries.toPlainText().indexOf(u'x')) + 1);
+        QTEST(cursor.charFormat().foreground().color().name(), "entry");
+        QTEST(statuses.findChild<QLabel *>()->styleSheet(), "name");
     }
 
     void entriesLoadNothing()
