@@ -298,6 +298,41 @@
     </message>
 </context>
 <context>
+    <name>ComUpdaterWidget</name>
+    <message>
+        <source>Done!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open firmware file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Output of the tool</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There were errors while uploading firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Update firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valid firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing through %1: %2 s. This window can be closed when the tool has ended.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ExperimentViewer</name>
     <message>
         <source>Results</source>
@@ -339,6 +374,37 @@
     </message>
     <message>
         <source>TB</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareBundle</name>
+    <message>
+        <source>Missing in the bundle: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle cannot be unpacked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle holds an entry that is not allowed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle holds more than %1 entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle is damaged: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bundle is larger than %1 MB when unpacked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a zip archive or is cut off</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -855,6 +921,13 @@ Restart now?</source>
     </message>
 </context>
 <context>
+    <name>PortRows</name>
+    <message>
+        <source>No serial ports found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QTableWidgetWithCopyPaste</name>
     <message>
         <source>Error</source>
@@ -1358,6 +1431,25 @@ hold and drag to desired position</source>
     </message>
     <message>
         <source>for the number of device in the batch</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>The tool could not be started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tool crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tool ended with the code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -297,6 +297,41 @@
     </message>
 </context>
 <context>
+    <name>ComUpdaterWidget</name>
+    <message>
+        <source>Done!</source>
+        <translation>Готово!</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Прошивка</translation>
+    </message>
+    <message>
+        <source>Open firmware file</source>
+        <translation>Открыть файл прошивки</translation>
+    </message>
+    <message>
+        <source>Output of the tool</source>
+        <translation>Вывод программы записи</translation>
+    </message>
+    <message>
+        <source>There were errors while uploading firmware</source>
+        <translation>При записи прошивки произошли ошибки</translation>
+    </message>
+    <message>
+        <source>Update firmware</source>
+        <translation>Обновить прошивку</translation>
+    </message>
+    <message>
+        <source>Valid firmware</source>
+        <translation>Прошивка пригодна</translation>
+    </message>
+    <message>
+        <source>Writing through %1: %2 s. This window can be closed when the tool has ended.</source>
+        <translation>Запись через %1: %2 с. Окно можно закрыть, когда программа записи завершится.</translation>
+    </message>
+</context>
+<context>
     <name>ExperimentViewer</name>
     <message>
         <source>Results</source>
@@ -339,6 +374,37 @@
     <message>
         <source>TB</source>
         <translation>ТБ</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareBundle</name>
+    <message>
+        <source>Missing in the bundle: %1</source>
+        <translation>В архиве не хватает: %1</translation>
+    </message>
+    <message>
+        <source>The bundle cannot be unpacked: %1</source>
+        <translation>Архив не удаётся распаковать: %1</translation>
+    </message>
+    <message>
+        <source>The bundle holds an entry that is not allowed: %1</source>
+        <translation>В архиве есть недопустимая запись: %1</translation>
+    </message>
+    <message>
+        <source>The bundle holds more than %1 entries</source>
+        <translation>В архиве больше %1 записей</translation>
+    </message>
+    <message>
+        <source>The bundle is damaged: %1</source>
+        <translation>Архив повреждён: %1</translation>
+    </message>
+    <message>
+        <source>The bundle is larger than %1 MB when unpacked</source>
+        <translation>Распакованный архив больше %1 МБ</translation>
+    </message>
+    <message>
+        <source>The file is not a zip archive or is cut off</source>
+        <translation>Файл не является zip-архивом или обрезан</translation>
     </message>
 </context>
 <context>
@@ -861,6 +927,13 @@ Restart now?</source>
     </message>
 </context>
 <context>
+    <name>PortRows</name>
+    <message>
+        <source>No serial ports found</source>
+        <translation>Последовательные порты не найдены</translation>
+    </message>
+</context>
+<context>
     <name>QTableWidgetWithCopyPaste</name>
     <message>
         <source>Error</source>
@@ -1376,6 +1449,25 @@ hold and drag to desired position</source>
     <message>
         <source>for the number of device in the batch</source>
         <translation>номер прибора в партии</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRun</name>
+    <message>
+        <source>The tool could not be started: %1</source>
+        <translation>Не удалось запустить программу записи: %1</translation>
+    </message>
+    <message>
+        <source>The tool crashed</source>
+        <translation>Программа записи аварийно завершилась</translation>
+    </message>
+    <message>
+        <source>The tool ended with the code %1</source>
+        <translation>Программа записи завершилась с кодом %1</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped</source>
+        <translation>Программа записи слишком долго молчала и была остановлена</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/settings/languagecontext.h"
 #include "framework/settings/startlanguage.h"
+#include "ui/mainwindow.h"
 
 #include <QApplication>
 #include <QFont>

@@ -1,11 +1,16 @@
 #include "app/servicetools.h"
 
+#include "service/widgets/comupdaterwidget.h"
+#include "service/widgets/servicedialog.h"
 #include "service/widgets/spinbarwriterwidget.h"
 #include "ui/mainwindow.h"
+#include "ui/spinbarcontroller.h"
 
 #include <QDialog>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 ServiceTools::ServiceTools(SpinbarModel *model, MainWindow *window, std::chrono::milliseconds writerDelay)
     : m_model(model)
@@ -13,6 +18,20 @@ ServiceTools::ServiceTools(SpinbarModel *model, MainWindow *window, std::chrono:
     , m_writerDelay(writerDelay)
 {
     connect(window, &MainWindow::deviceWriterRequested, this, &ServiceTools::prepareDeviceWriter);
+    if (const SpinbarController *controller = SpinbarController::instance())
+        connect(controller, &SpinbarController::firmwareUpdateRequested, this, &ServiceTools::updateFirmware);
+}
+
+void ServiceTools::updateFirmware()
+{
+    if (m_pause)
+        return;
+    m_pause = std::make_unique<LinkPause>(*m_model);
+    auto *updater =
+        new ComUpdaterWidget(FirmwareTarget::Kind::Avr, u"bfw"_s, u"self-avrdude.exe"_s, {}, nullptr);
+    ServiceDialog dialog(updater, SpinbarController::instance());
+    dialog.exec();
+    m_pause.reset();
 }
 
 void ServiceTools::prepareDeviceWriter()

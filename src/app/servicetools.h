@@ -10,8 +10,8 @@
 class MainWindow;
 class SpinbarModel;
 
-/// Opens the service tools that the main window asks for, one at a time, and keeps the link to the instrument
-/// off meanwhile.
+/// Opens the service tools that the window asks for, one at a time. The instrument's port is theirs
+/// meanwhile; the link is taken up again however a tool ends.
 class ServiceTools : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,13 @@ public:
     /// For the instrument, and for adapters that are slow to let go of a port.
     static constexpr std::chrono::milliseconds WriterDelay{2000};
 
-    /// Both outlive it. \a writerDelay passes between giving up the port and the device writer.
+    /// After the window and its pages are made; both outlive it. \a writerDelay passes between giving up the
+    /// port and the device writer.
     ServiceTools(SpinbarModel *model, MainWindow *window,
                  std::chrono::milliseconds writerDelay = WriterDelay);
 
 private:
+    void updateFirmware();
     void prepareDeviceWriter();
     void runDeviceWriter();
 

@@ -60,6 +60,15 @@ QList<PortInfo> SerialPorts::listed()
     return ports;
 }
 
+QString SerialPorts::nameForTools(const PortInfo &port)
+{
+#ifdef Q_OS_WIN
+    return port.name;
+#else
+    return port.location;
+#endif
+}
+
 int SerialPorts::number(const QString &name)
 {
     bool isNumber = false;

@@ -27,6 +27,9 @@ PortInfo fromSystem(const QSerialPortInfo &info);
 /// paths separated by ";") that exist. Takes about 20 ms.
 QList<PortInfo> listed();
 
+/// What an outside tool calls the port: its name, where tools know ports by name, otherwise its path.
+QString nameForTools(const PortInfo &port);
+
 /// The number that a link is pinned to. "COM7" reads 7 everywhere. Other names read 0 on Windows; elsewhere
 /// each has a number of its own, the same for the whole run of the program and above any COM number.
 int number(const QString &name);

@@ -91,6 +91,16 @@ FirmwareTarget::Files FirmwareTarget::findFiles(const QString &folder, QStringLi
     return found;
 }
 
+QStringList FirmwareTarget::fileTypes() const
+{
+    QStringList types;
+    for (const ExpectedFile &file : expectedFiles({})) {
+        if (!file.wholePath)
+            types += file.part.section(u'.', -1);
+    }
+    return types;
+}
+
 bool FirmwareTarget::hasOwnTool() const
 {
     return m_tool.contains(OwnToolPrefix);

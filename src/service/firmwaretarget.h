@@ -36,6 +36,9 @@ public:
     /// Each expected file's role with the first of \a paths that meets it and is not taken yet.
     Files findFiles(const QString &folder, QStringList paths) const;
 
+    /// What the names of those files end with, but for a tool without a suffix.
+    QStringList fileTypes() const;
+
     bool hasOwnTool() const;
     QString program(const QString &folder) const;
     /// As they stand in the command line, with their quotes.

@@ -28,9 +28,11 @@ bool AppHelper::checkAndCloseIfAppsRunning(const QStringList &apps, int attempts
     return true;
 }
 
-void AppHelper::warningMessage(const QString &text, const QString &title, QMessageBox::Icon icon)
+void AppHelper::warningMessage(const QString &text, const QString &title, QMessageBox::Icon icon,
+                               const QString &details)
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok);
+    box.setInformativeText(details);
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.exec();
 }

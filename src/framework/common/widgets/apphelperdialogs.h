@@ -11,7 +11,9 @@ namespace AppHelper {
 /// True means that the caller must end. A start with nothing in the way does not wait.
 bool checkAndCloseIfAppsRunning(const QStringList &apps, int attempts);
 
-void warningMessage(const QString &text, const QString &title, QMessageBox::Icon icon = QMessageBox::Warning);
+/// \a details stands below the text.
+void warningMessage(const QString &text, const QString &title, QMessageBox::Icon icon = QMessageBox::Warning,
+                    const QString &details = {});
 
 /// True if the first button was pressed. \a buttons replaces the captions "Yes" and "No" in this order.
 bool confirmDialog(const QString &title, const QString &text, QMessageBox::Icon icon,
