@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto ShortTime = 300ms;
+constexpr auto ShortTime = 500ms;
 const QString Com = u"COM7"_s;
 constexpr auto Question = "{whois}{version}{sn}{getSettings}";
 

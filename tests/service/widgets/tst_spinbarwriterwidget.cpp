@@ -90,7 +90,7 @@ private slots:
             QVERIFY(widget.findChild<GlobalConsoleWidget *>()->toPlainText().contains(
                 "MCC:1,MAC:1,MDC:1,CUR:10"_L1));
         }
-        SpinbarWriterWidget widget(nullptr, std::chrono::milliseconds(300));
+        SpinbarWriterWidget widget(nullptr, std::chrono::milliseconds(1000));
         button(widget, u"Read"_s)->click();
         QTRY_VERIFY(box(widget, 3)->isEnabled());
         box(widget, 3)->setValue(12.25);

@@ -38,6 +38,7 @@ GlobalConsoleStatusWidget::GlobalConsoleStatusWidget(ViewType type, QWidget *par
 {
     m_grid->setColumnStretch(ValueColumn, 1);
     m_grid->setAlignment(Qt::AlignTop);
+    StyleHelper::Instance()->setStyledBackground(this, u"--n-idle-bg"_s, Qt::white);
     const GlobalConsole *console = GlobalConsole::Instance();
     // Queued, since the console may be fed from other threads.
     if (type == Averages) {
