@@ -77,4 +77,6 @@ void SimulatorProcess::kill()
         return;
     m_process.kill();
     m_process.waitForFinished(StartTimeoutMs);
+    // Its terminal may be another's by now, and then the link counts as in use.
+    QFile::remove(m_path);
 }
