@@ -1,6 +1,7 @@
 #include "gallery/gallerywindow.h"
 
 #include "gallery/chartspage.h"
+#include "gallery/consolepage.h"
 #include "gallery/formpage.h"
 #include "gallery/kitpage.h"
 
@@ -121,6 +122,7 @@ QTabWidget *GalleryWindow::createPages()
     add(new KitPage, u"kit"_s, tr("Small widgets"));
     add(new ChartsPage, u"charts"_s, tr("Charts"));
     add(new FormPage(&m_settings), u"form"_s, tr("Property form"));
+    add(new ConsolePage, u"console"_s, tr("Console"));
     return pages;
 }
 

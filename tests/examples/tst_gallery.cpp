@@ -37,7 +37,7 @@ private slots:
     {
         const QTemporaryDir folder;
         QCOMPARE(exitCode({u"--pictures"_s, folder.path()}), 0);
-        for (const QString &page : {u"kit"_s, u"charts"_s, u"form"_s}) {
+        for (const QString &page : {u"kit"_s, u"charts"_s, u"form"_s, u"console"_s}) {
             QList<QImage> pictures;
             for (const QString &kind :
                  {u"en_US-light"_s, u"en_US-dark"_s, u"ru_RU-light"_s, u"ru_RU-dark"_s}) {

@@ -77,7 +77,34 @@
     </message>
 </context>
 <context>
+    <name>ConsolePage</name>
+    <message>
+        <source>Write an entry</source>
+        <translation>Записать строку</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Запись %1</translation>
+    </message>
+    <message>
+        <source>sample</source>
+        <translation>пример</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Примеры</translation>
+    </message>
+    <message>
+        <source>Last entry</source>
+        <translation>Последняя запись</translation>
+    </message>
+</context>
+<context>
     <name>GalleryWindow</name>
+    <message>
+        <source>Console</source>
+        <translation>Консоль</translation>
+    </message>
     <message>
         <source>Gallery of the widget kit</source>
         <translation>Галерея набора виджетов</translation>
