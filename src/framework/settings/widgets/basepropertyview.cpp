@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
@@ -134,7 +135,8 @@ void BasePropertyView::addDefaultButton()
     m_defaultButton->setToolTip(tip);
     nameControl(m_defaultButton, tip);
     CursorHelper::setCursor(m_defaultButton, Qt::PointingHandCursor);
-    connect(m_defaultButton, &QPushButton::clicked, this, [this] {
+    // Not its click, which assistive programs have no way to give to a checkable button.
+    connect(m_defaultButton, &QPushButton::toggled, this, [this] {
         if (m_description)
             m_description->setDefault();
     });
@@ -157,8 +159,10 @@ void BasePropertyView::setDefaultButtonStretch(int stretch)
 
 void BasePropertyView::setDefaultButtonChecked(bool isDefault)
 {
-    if (m_defaultButton)
-        m_defaultButton->setChecked(!isDefault);
+    if (!m_defaultButton)
+        return;
+    const QSignalBlocker blocker(m_defaultButton);
+    m_defaultButton->setChecked(!isDefault);
 }
 
 void BasePropertyView::write(const QVariant &value)
