@@ -131,16 +131,21 @@ std::size_t heapBytes()
     return heap.uordblks + heap.hblkhd;
 }
 
+/// False if none comes for so long that the link must have been found lost and built up again by then. How
+/// long all of them take is not asked: a busy machine sends and reads fewer in a second.
 bool waitForLines(Operator &work, int count)
 {
-    constexpr int TimeoutMs = 300'000;
+    constexpr int SilenceMs = 60'000;
     QEventLoop loop;
+    QTimer silence;
+    QObject::connect(&silence, &QTimer::timeout, &loop, &QEventLoop::quit);
+    silence.start(SilenceMs);
     int lines = 0;
     QObject::connect(work.model().device(), &CurlySpinbar::newStatus, &loop, [&] {
+        silence.start();
         if (++lines == count)
             loop.quit();
     });
-    QTimer::singleShot(TimeoutMs, &loop, &QEventLoop::quit);
     loop.exec();
     return lines >= count;
 }
