@@ -79,10 +79,11 @@ private slots:
         const TestPorts ports({line.info()});
         CurlyShelterDevice device;
         device.start();
-        const QRegularExpression pattern(u"^\\{whois\\}\\{sn\\}"_s + asks);
-        QVERIFY2(
-            QTest::qWaitFor([&] { return pattern.match(QString::fromLatin1(line.received)).hasMatch(); }),
-            line.received.constData());
+        // The second greeting falls where it likes on a busy machine.
+        const QRegularExpression pattern(u"^\\{sn\\}"_s + asks);
+        const auto asked = [&line] { return QString::fromLatin1(line.received).remove(u"{whois}"_s); };
+        QVERIFY2(QTest::qWaitFor([&] { return pattern.match(asked()).hasMatch(); }),
+                 line.received.constData());
         QTEST(device.serialNumber(), "serialNumber");
     }
 

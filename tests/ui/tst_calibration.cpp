@@ -97,7 +97,7 @@ private slots:
         bench.click(u"Калибровка датчиков"_s);
         QVERIFY(bench.waitForCommand(u"rotate=4.744"_s));
         QSignalSpy stored(bench.model->settings(), &SpinbarSettings::changedCalibrationRats);
-        QVERIFY(stored.wait(15000));
+        QVERIFY(stored.wait(60'000));
         QVERIFY(bench.waitForCommand(u"rotate=0.000"_s));
         QList<int> values = thresholds(bench.model->device()->ratDetectors());
         QCOMPARE(bench.model->settings()->getCalibrationMice(), QString());

@@ -193,7 +193,7 @@ private slots:
     void recordingShowsItsTimeAndBars()
     {
         OperatorBench bench;
-        QVERIFY(bench.plugIn("1 1 on\n3 4 on\n20 1 off\n"));
+        QVERIFY(bench.plugIn("1 1 on\n3 4 on\n40 1 off\n"));
         QTRY_VERIFY(SpinbarController::instance()->isEnabled());
         auto *record = bench.button(u"Record"_s);
         auto *stop = bench.button(u"Stop"_s);
@@ -203,7 +203,7 @@ private slots:
         QVERIFY(stop->hasFocus());
         QVERIFY(bench.button(u"Калибровка датчиков"_s)->isHidden());
         QCOMPARE(stop->text(), u"00:00"_s);
-        QTRY_COMPARE(stop->text(), u"00:01"_s);
+        QTRY_VERIFY(stop->text() > u"00:00"_s && stop->text() < u"00:10"_s);
         SpinbarRecord *running = bench.model->currentRecord();
         QTRY_COMPARE(running->rawItems().size(), 1);
         const RunGraph graph = RunGraph::of(*running, bench.model->device()->detectors());
@@ -225,7 +225,7 @@ private slots:
     void unplugEndsRecordingAndZeroesControls()
     {
         OperatorBench bench;
-        QVERIFY(bench.plugIn("1 3 on\n30 link off 20\n"));
+        QVERIFY(bench.plugIn("1 3 on\n"));
         auto *controller = SpinbarController::instance();
         QTRY_VERIFY(controller->isEnabled());
         auto *speed = controller->findChild<SpeedControl *>()->findChild<DirectJumpSlider *>();
@@ -236,6 +236,8 @@ private slots:
         QSignalSpy stopped(bench.model.get(), &SpinbarModel::recordStopped);
         bench.click(u"Record"_s);
         const QString folder = bench.model->currentRecord()->folder();
+        QTRY_VERIFY(bench.model->device()->ratDetectors().at(2)->isPresent());
+        bench.instrument.reset();
         QVERIFY(bench.waitForConnection(false));
         QTRY_VERIFY(!controller->isEnabled());
         QCOMPARE(stopped.size(), 1);
@@ -244,7 +246,7 @@ private slots:
         QVERIFY(stored.load());
         QCOMPARE(stored.rawItems().size(), 1);
         bench.commands.clear();
-        QVERIFY(bench.waitForConnection(true));
+        QVERIFY(bench.plugIn());
         QTRY_VERIFY(controller->isEnabled());
         QVERIFY(bench.button(u"Record"_s)->isVisible());
         QVERIFY(bench.commands.filter(u"rotate=2"_s).isEmpty());

@@ -67,8 +67,6 @@ private slots:
         QVERIFY2(meanLightness(light) > 200 && meanLightness(dark) < 60,
                  qPrintable(u"%1 %2"_s.arg(meanLightness(light)).arg(meanLightness(dark))));
         settings->setColorTheme(StyleHelper::Light);
-        light.save("/tmp/operator-t1.png");
-        dark.save("/tmp/operator-t3.png");
         QCOMPARE(picture(), light);
     }
 
@@ -87,7 +85,7 @@ private slots:
         QVERIFY(script.open(QFile::WriteOnly));
         script.write("<SpeedScript><Infinite>true</Infinite><Points>0:9\n10:9</Points></SpeedScript>");
         script.close();
-        QVERIFY(bench.plugIn("1 3 on\n60 link off 20\n"));
+        QVERIFY(bench.plugIn("1 3 on\n"));
         auto *controller = SpinbarController::instance();
         QTRY_VERIFY(controller->isEnabled());
         auto *tabs = controller->findChild<QTabWidget *>();
@@ -107,6 +105,7 @@ private slots:
             dialog.open();
         }
 
+        bench.instrument.reset();
         QVERIFY(bench.waitForConnection(false));
         QTRY_VERIFY(!controller->isEnabled());
         QVERIFY(!bench.model->currentRecord());
@@ -116,7 +115,7 @@ private slots:
             QVERIFY(bench.model->settings()->getCalibrationRats().startsWith("21;"_L1));
         }
         bench.commands.clear();
-        QVERIFY(bench.waitForConnection(true));
+        QVERIFY(bench.plugIn());
         QTRY_VERIFY(controller->isEnabled());
         // A script goes on where it would be by now; nothing else turns the drum.
         if (state == "script"_L1) {
@@ -129,7 +128,7 @@ private slots:
         if (state != "calibrating"_L1)
             return;
         // What was seen counts.
-        QTRY_COMPARE_WITH_TIMEOUT(bench.model->settings()->getCalibrationRats().count(u';'), 3, 15'000);
+        QTRY_COMPARE_WITH_TIMEOUT(bench.model->settings()->getCalibrationRats().count(u';'), 3, 60'000);
         for (const QDialog *progress : controller->findChildren<QDialog *>())
             QVERIFY(progress->isHidden());
     }
@@ -147,9 +146,11 @@ private slots:
         const QString folder = bench.model->currentRecord()->folder();
         QVERIFY(waitForLines(bench, Lines));
         const std::size_t before = heapBytes();
+        std::size_t lines = 0;
         qint64 longestPauseMs = 0;
         QElapsedTimer sinceTurn;
         QTimer turns;
+        connect(bench.model->device(), &CurlySpinbar::newStatus, &turns, [&lines] { ++lines; });
         connect(&turns, &QTimer::timeout, this,
                 [&] { longestPauseMs = std::max(longestPauseMs, sinceTurn.restart()); });
         sinceTurn.start();
@@ -157,7 +158,8 @@ private slots:
         QVERIFY(waitForLines(bench, Lines));
         turns.stop();
         QVERIFY2(longestPauseMs < LongestPauseMs, qPrintable(QString::number(longestPauseMs)));
-        QVERIFY(heapBytes() <= before + Lines * BytesPerLine);
+        // On a busy machine some messages may still wait to be read.
+        QTRY_VERIFY(heapBytes() <= before + lines * BytesPerLine);
         bench.model->stopRecord();
         SpinbarRecord stored(folder, {});
         QVERIFY(stored.load());

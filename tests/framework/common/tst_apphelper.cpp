@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -87,10 +86,12 @@ private Q_SLOTS:
 
     void freeStartDoesNotWait()
     {
-        QElapsedTimer timer;
-        timer.start();
+        // Every wait lets events through.
+        bool waited = false;
+        QObject context;
+        QTimer::singleShot(0, &context, [&waited] { waited = true; });
         QVERIFY(AppHelper::waitForAppsToEnd({u"NoSuchProgramRuns"_s}, Attempts).isEmpty());
-        QVERIFY(timer.elapsed() < RestartTimeMs / 4);
+        QVERIFY(!waited);
     }
 
     void predecessorIsGivenTimeToEnd()
