@@ -5,7 +5,7 @@
 #include "device/curlymessageparser.h"
 #include "device/instrumentstatus.h"
 
-#include <array>
+#include <algorithm>
 #include <memory>
 
 using FuzzTarget::require;
@@ -52,7 +52,11 @@ public:
         counting.removeIf([](const ExperimentItem &item) {
             return item.start < 0 || item.end <= item.start || item.rotations <= 0;
         });
-        require(copy.rawItems() == counting, "every row that counts is read as it was written");
+        // A JSON number is exact up to 2^53, which is 285,000 years.
+        constexpr qint64 LargestExact = 1LL << 53;
+        const bool exact = std::ranges::all_of(
+            counting, [](const ExperimentItem &item) { return item.end <= LargestExact; });
+        require(!exact || copy.rawItems() == counting, "every row that counts is read as it was written");
         copy.experimentTable(false);
         SpinbarRecord::summaryTable({&copy}, true);
     }
