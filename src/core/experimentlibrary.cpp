@@ -4,13 +4,13 @@
 #include "core/recordslog.h"
 
 #include "framework/common/fileutilities.h"
+#include "framework/common/platform.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -21,13 +21,6 @@ namespace {
 QString withoutSlash(const QString &folder)
 {
     return folder.endsWith('/'_L1) && folder.size() > 1 ? folder.chopped(1) : folder;
-}
-
-/// Without a data folder the trash would be made in the current folder.
-bool hasTrash()
-{
-    return FileUtilities::createIfNotExists(
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 } // namespace
@@ -92,8 +85,8 @@ bool ExperimentLibrary::remove(const QString &folder) const
     QString reason;
     if (!holds(folder))
         reason = u"not under the records folder"_s;
-    else if (!hasTrash())
-        reason = u"there is no folder for a trash"_s;
+    else if (!Platform::hasTrash())
+        reason = u"there is no trash"_s;
     else if (!file.moveToTrash())
         reason = file.errorString();
     else if (QFileInfo::exists(path))

@@ -1,13 +1,13 @@
 #include "scripts/scriptlibrary.h"
 
 #include "framework/common/fileutilities.h"
+#include "framework/common/platform.h"
 #include "scripts/samplescripts.h"
 #include "scripts/speedscript.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -137,9 +137,7 @@ ScriptLibrary::Outcome ScriptLibrary::rename(const QString &from, const QString 
 ScriptLibrary::Outcome ScriptLibrary::remove(const QString &title) const
 {
     const QString file = findFile(title);
-    // Without its data folder the system's trash would turn up in the current folder.
-    FileUtilities::createIfNotExists(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    const bool removed = !file.isEmpty() && QFile::moveToTrash(file);
+    const bool removed = !file.isEmpty() && Platform::hasTrash() && QFile::moveToTrash(file);
     return removed ? Outcome::Done : logged(Outcome::CannotRemove, file);
 }
 

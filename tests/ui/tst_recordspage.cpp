@@ -328,17 +328,26 @@ private slots:
                  names.size());
     }
 
+    void withoutATrashTheExperimentStays_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("no folder for it") << u"data"_s;
+        QTest::newRow("cannot be made") << u"data/Trash"_s;
+    }
+
     void withoutATrashTheExperimentStays()
     {
+        QFETCH(QString, file);
         RecordsBench bench;
+        bench.write(u"../"_s + file, {});
         bench.add(u"a"_s);
         bench.open();
         bench.table->selectRow(0);
         const QByteArray before = qgetenv("XDG_DATA_HOME");
-        qputenv("XDG_DATA_HOME", QFile::encodeName(bench.json(u"a"_s)));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(bench.data.filePath(u"data"_s)));
         bench.answerNext(u"Yes"_s);
         QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(u"Cannot move to the trash: .*there is no folder"_s));
+                             QRegularExpression(u"Cannot move to the trash: .*there is no trash"_s));
         bench.page->removeExperiments({bench.json(u"a"_s)});
         qputenv("XDG_DATA_HOME", before);
         QVERIFY(QFile::exists(bench.json(u"a"_s)));

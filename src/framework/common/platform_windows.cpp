@@ -37,3 +37,9 @@ QString Platform::systemTitle()
 {
     return "Windows "_L1 + QSysInfo::productVersion();
 }
+
+bool Platform::hasTrash()
+{
+    // Each drive has its own, and a drive without one refuses.
+    return true;
+}
