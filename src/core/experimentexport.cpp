@@ -12,6 +12,11 @@ ExperimentExport::Format ExperimentExport::formatOfFilter(const QString &filter)
     return filter.contains("*.csv"_L1) ? Format::Csv : Format::Workbook;
 }
 
+QString ExperimentExport::suffix(Format format)
+{
+    return format == Format::Csv ? u".csv"_s : u".xlsx"_s;
+}
+
 QString ExperimentExport::suggestedName(const QList<SpinbarRecord *> &records)
 {
     if (records.isEmpty())

@@ -15,6 +15,8 @@ enum class Format { Workbook, Csv };
 
 /// Csv if the file filter names "*.csv".
 Format formatOfFilter(const QString &filter);
+/// Of the files of a format, with the dot.
+QString suffix(Format format);
 
 /// Of the first record, with "-" and that of the last if there are several. Without a suffix.
 QString suggestedName(const QList<SpinbarRecord *> &records);

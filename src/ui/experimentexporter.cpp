@@ -56,9 +56,12 @@ ExperimentExporter::Target ExperimentExporter::askForTarget(const QString &sugge
     QString filter = settings.getLastExportFilter();
     if (!filters.contains(filter))
         filter = filters.constFirst();
+    QString suggestion = FileUtilities::FolderSlash(folder) + suggestedName;
+    // The dialog would go into a folder of that name, such as the experiment's own, and suggest nothing.
+    if (QFileInfo(suggestion).isDir())
+        suggestion += ExperimentExport::suffix(ExperimentExport::formatOfFilter(filter));
     const QString path =
-        QFileDialog::getSaveFileName(m_page, tr("Export"), FileUtilities::FolderSlash(folder) + suggestedName,
-                                     filters.join(";;"_L1), &filter);
+        QFileDialog::getSaveFileName(m_page, tr("Export"), suggestion, filters.join(";;"_L1), &filter);
     return {path, filter};
 }
 

@@ -122,18 +122,27 @@ private slots:
 
     void dialogStartsWhereTheLastOneEnded_data()
     {
+        QTest::addColumn<int>("count");
         QTest::addColumn<QString>("lastFolder");
         QTest::addColumn<QString>("lastFilter");
         QTest::addColumn<bool>("opensThere");
         QTest::addColumn<QString>("filter");
-        QTest::newRow("first time") << QString() << QString() << false << Workbook;
-        QTest::newRow("again") << QString() << Csv << true << Csv;
+        QTest::addColumn<QString>("name");
+        const QString both = u"Крыса 1-Крыса 2"_s;
+        QTest::newRow("first time") << 2 << QString() << QString() << false << Workbook << both;
+        QTest::newRow("again") << 2 << QString() << Csv << true << Csv << both;
         QTest::newRow("gone, in another language")
-            << u"/no/such/folder"_s << u"Data (*.csv)"_s << false << Workbook;
+            << 2 << u"/no/such/folder"_s << u"Data (*.csv)"_s << false << Workbook << both;
+        QTest::newRow("one, again") << 1 << QString() << Csv << true << Csv << u"Крыса 1"_s;
+        // Where its own folder has the name already.
+        QTest::newRow("one, first time")
+            << 1 << QString() << QString() << false << Workbook << u"Крыса 1.xlsx"_s;
+        QTest::newRow("one, first time, CSV") << 1 << QString() << Csv << false << Csv << u"Крыса 1.csv"_s;
     }
 
     void dialogStartsWhereTheLastOneEnded()
     {
+        QFETCH(int, count);
         QFETCH(QString, lastFolder);
         QFETCH(QString, lastFilter);
         QFETCH(bool, opensThere);
@@ -142,9 +151,9 @@ private slots:
         m_model->settings()->setLastExportFolder(lastFolder);
         m_model->settings()->setLastExportFilter(lastFilter);
         Operator user(&m_page);
-        exportFirst(2);
+        exportFirst(count);
         QCOMPARE(user.folderSeen, QDir(opensThere ? lastFolder : m_model->recordsFolder()).absolutePath());
-        QCOMPARE(user.nameSeen, u"Крыса 1-Крыса 2"_s);
+        QTEST(user.nameSeen, "name");
         QTEST(user.filterSeen, "filter");
         QCOMPARE(m_model->settings()->getLastExportFolder(), lastFolder);
         QCOMPARE(m_model->settings()->getLastExportFilter(), lastFilter);
