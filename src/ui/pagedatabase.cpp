@@ -302,8 +302,8 @@ void PageDatabase::rename(const QString &path, const QString &newName)
 
 void PageDatabase::refuseName(const QString &path, const QString &oldName, const QString &reason)
 {
-    m_table->setCellText(path, RecordsTable::NameColumn, oldName);
     AppHelper::warningMessage(reason, {});
+    m_table->setCellText(path, RecordsTable::NameColumn, oldName);
 }
 
 void PageDatabase::showMenu(QPoint position)

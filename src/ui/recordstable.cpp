@@ -18,6 +18,7 @@ namespace {
 
 constexpr int LeastWidth = 200;
 constexpr int LeastSectionWidth = 40;
+constexpr int LeastNameWidth = 120;
 constexpr int MostNameWidth = 220;
 // The theme draws a line around the current cell.
 constexpr int CurrentCellFrame = 4;
@@ -64,6 +65,10 @@ RecordsTable::RecordsTable(QWidget *parent)
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     setHorizontalHeaderLabels(headers());
+    for (int column = 0; column < ColumnCount; ++column)
+        horizontalHeaderItem(column)->setToolTip(headers().at(column));
+    // No wider than that for the sake of an arrow.
+    horizontalHeaderItem(CountColumn)->setSizeHint({LeastSectionWidth, 0});
     for (const Column column : {NameColumn, CountColumn})
         horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     for (const Column column : {TitleColumn, CommentColumn})
@@ -114,7 +119,10 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
 
 int RecordsTable::sizeHintForColumn(int column) const
 {
-    return std::min(QTableWidget::sizeHintForColumn(column) + CurrentCellFrame, MostNameWidth);
+    const int content = QTableWidget::sizeHintForColumn(column) + CurrentCellFrame;
+    const int others = (ColumnCount - 1) * LeastSectionWidth;
+    const int most = std::clamp(viewport()->width() - others, LeastNameWidth, MostNameWidth);
+    return column == NameColumn ? std::min(content, most) : content;
 }
 
 QStringList RecordsTable::selectedPaths() const

@@ -10,13 +10,17 @@
 namespace {
 
 constexpr int LookPeriodMs = 50;
+// Enough for the title of the window.
+constexpr int LeastWidth = 320;
 
 } // namespace
 
 WorkProgress::WorkProgress(const QString &title, const QString &text, int steps, QWidget *parent)
-    : m_dialog(text, QCoreApplication::translate("Generic", "Cancel"), 0, steps, parent)
+    : m_dialog(text.isEmpty() ? title : text, QCoreApplication::translate("Generic", "Cancel"), 0, steps,
+               parent)
 {
     m_dialog.setWindowTitle(title);
+    m_dialog.setMinimumWidth(LeastWidth);
     m_dialog.setWindowModality(Qt::ApplicationModal);
     m_dialog.setAutoReset(false);
     m_dialog.setAutoClose(false);

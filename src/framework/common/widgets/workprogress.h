@@ -15,6 +15,7 @@ class WorkProgress
 public:
     static constexpr int PatienceMs = 500;
 
+    /// \a title stands in the place of an empty \a text, too.
     WorkProgress(const QString &title, const QString &text, int steps, QWidget *parent);
 
     /// One more step is done. False once the operator wants no more.
