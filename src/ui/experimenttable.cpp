@@ -21,6 +21,7 @@ constexpr int DimmedRole = Qt::UserRole;
 constexpr QRgb DimmedFallback = 0xFFCCCCCC;
 // Of a column whose texts may be of any length.
 constexpr int GreatestWidth = 160;
+constexpr int GreatestFirstWidth = 220;
 // Around the text of a heading: the style sheet's padding, the line and what the style adds.
 constexpr int HeaderPadding = 16;
 
@@ -131,6 +132,7 @@ ExperimentTable::ExperimentTable(const QString &accessibleName)
     setAccessibleName(accessibleName);
     setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     TableCopy::install(this);
@@ -150,14 +152,22 @@ void ExperimentTable::resizeEvent(QResizeEvent *event)
     fitColumns();
 }
 
+int ExperimentTable::sizeHintForColumn(int column) const
+{
+    return std::min(QTableWidget::sizeHintForColumn(column),
+                    column == 0 ? GreatestFirstWidth : GreatestWidth);
+}
+
 void ExperimentTable::measureColumns()
 {
     m_needed.clear();
     for (int column = 0; column < columnCount(); ++column) {
         const int content = sizeHintForColumn(column) + 1; // the line between columns
-        const int width = column == 0 ? content : std::min(content, GreatestWidth);
-        const QString heading = horizontalHeaderItem(column)->text();
-        m_needed += std::max(width, twoLineWidth(*horizontalHeader(), heading));
+        // The first one's width is up to the header.
+        const int heading = column == 0
+                                ? horizontalHeader()->sectionSizeHint(0)
+                                : twoLineWidth(*horizontalHeader(), horizontalHeaderItem(column)->text());
+        m_needed += std::max(content, heading);
     }
 }
 

@@ -21,6 +21,8 @@ public:
     void setRows(const QList<QList<QVariant>> &rows);
 
 protected:
+    /// A name of any length leaves room for the other columns.
+    int sizeHintForColumn(int column) const override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

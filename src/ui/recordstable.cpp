@@ -1,5 +1,7 @@
 #include "ui/recordstable.h"
 
+#include "ui/sortheader.h"
+
 #include "core/spinbarrecord.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/tablecopy.h"
@@ -52,6 +54,7 @@ RecordsTable::RecordsTable(QWidget *parent)
 {
     // For the sort arrows of the theme.
     setObjectName(u"sortableTable"_s);
+    setHorizontalHeader(new SortHeader);
     setMinimumWidth(LeastWidth);
     setSelectionMode(ExtendedSelection);
     // So that Control and a click take a marked row out again.
@@ -61,8 +64,6 @@ RecordsTable::RecordsTable(QWidget *parent)
     setWordWrap(false);
     verticalHeader()->hide();
     horizontalHeader()->setMinimumSectionSize(LeastSectionWidth);
-    // A narrow column shows how its caption begins.
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     setHorizontalHeaderLabels(headers());
     for (int column = 0; column < ColumnCount; ++column)
@@ -71,8 +72,8 @@ RecordsTable::RecordsTable(QWidget *parent)
     horizontalHeaderItem(CountColumn)->setSizeHint({LeastSectionWidth, 0});
     for (const Column column : {NameColumn, CountColumn})
         horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-    for (const Column column : {TitleColumn, CommentColumn})
-        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &RecordsTable::fitColumns);
+    fitColumns();
     TableCopy::install(this);
 }
 
@@ -92,6 +93,7 @@ void RecordsTable::fill(const QList<SpinbarRecord *> &records, const QString &se
     if (selectedRow >= 0)
         selectRow(selectedRow);
     setSortingEnabled(true);
+    fitColumns();
     if (selectedRow >= 0)
         scrollTo(currentIndex());
 }
@@ -120,9 +122,33 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
 int RecordsTable::sizeHintForColumn(int column) const
 {
     const int content = QTableWidget::sizeHintForColumn(column) + CurrentCellFrame;
-    const int others = (ColumnCount - 1) * LeastSectionWidth;
+    int others = 0;
+    for (const Column other : {TitleColumn, CommentColumn, CountColumn})
+        others += horizontalHeader()->sectionSizeHint(other);
     const int most = std::clamp(viewport()->width() - others, LeastNameWidth, MostNameWidth);
     return column == NameColumn ? std::min(content, most) : content;
+}
+
+void RecordsTable::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    fitColumns();
+}
+
+/// Title and comment share what is left, but not below the width of their captions.
+void RecordsTable::fitColumns()
+{
+    QHeaderView *header = horizontalHeader();
+    int room = viewport()->width();
+    for (const Column column : {NameColumn, CountColumn})
+        room -= std::max(sizeHintForColumn(column), header->sectionSizeHint(column));
+    const int least = std::max(header->sectionSizeHint(TitleColumn), header->sectionSizeHint(CommentColumn));
+    const bool even = room >= 2 * least;
+    for (const Column column : {TitleColumn, CommentColumn}) {
+        header->setSectionResizeMode(column, even ? QHeaderView::Stretch : QHeaderView::Fixed);
+        if (!even)
+            header->resizeSection(column, header->sectionSizeHint(column));
+    }
 }
 
 QStringList RecordsTable::selectedPaths() const

@@ -38,7 +38,9 @@ public:
 protected:
     /// A name of any length leaves room for the other columns.
     int sizeHintForColumn(int column) const override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void fillRow(int row, const SpinbarRecord &record);
+    void fitColumns();
 };

@@ -165,6 +165,15 @@ private slots:
         QTEST(table.horizontalHeader()->length() > table.viewport()->width(), "scrolls");
     }
 
+    void aLongNameLeavesRoom()
+    {
+        ExperimentTable table(u"Summary"_s);
+        table.resize(500, 300);
+        table.setRows({{u"Date"_s, u"Time, s"_s}, {"{R} "_L1 + QString(200, u'x'), 12.5}});
+        table.show();
+        QVERIFY(table.horizontalHeader()->length() <= table.viewport()->width());
+    }
+
     void oneExperimentIsATableAndAGraph()
     {
         const ExperimentFolder folder;

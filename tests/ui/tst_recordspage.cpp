@@ -96,6 +96,18 @@ private slots:
         QVERIFY(header->sectionSize(0) > bench.table->fontMetrics().horizontalAdvance(u"2026.11.23-"_s));
     }
 
+    void captionsAreWholeInANarrowTable()
+    {
+        RecordsTable table;
+        table.resize(200, 200);
+        table.show();
+        for (int column = 0; column < table.columnCount(); ++column) {
+            const QString caption = table.horizontalHeaderItem(column)->text();
+            QVERIFY(table.columnWidth(column)
+                    > table.horizontalHeader()->fontMetrics().horizontalAdvance(caption));
+        }
+    }
+
     void editsGoToTheFile_data()
     {
         QTest::addColumn<int>("column");
