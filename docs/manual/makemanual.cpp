@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QTextBlock>
@@ -15,6 +16,7 @@
 #include <QTextStream>
 #include <QTextTable>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,8 @@ namespace {
 constexpr int Resolution = 96;
 // What an A4 page leaves between the margins that the document's printing adds.
 constexpr double PictureWidth = 600;
+// Of pictures of the screen, so that their text is about as large as ours.
+constexpr double PictureScale = 0.6;
 constexpr int BodyPoints = 10;
 constexpr std::array HeadingPoints = {20, 14, 11};
 const QColor HeadingColor(0x11, 0x55, 0x99);
@@ -53,7 +57,7 @@ void styleHeading(const QTextBlock &block, int level)
     cursor.mergeBlockFormat(format);
 }
 
-/// Pictures are as wide as the page at most.
+/// Pictures are reduced, and as wide as the page at most.
 void fitPictures(const QTextBlock &block, double width)
 {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -61,7 +65,7 @@ void fitPictures(const QTextBlock &block, double width)
         if (!fragment.charFormat().isImageFormat())
             continue;
         QTextImageFormat format = fragment.charFormat().toImageFormat();
-        format.setWidth(width);
+        format.setWidth(std::min(QImageReader(format.name()).size().width() * PictureScale, width));
         QTextCursor cursor(block);
         cursor.setPosition(fragment.position());
         cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
