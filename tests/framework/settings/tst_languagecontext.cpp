@@ -42,6 +42,7 @@ private slots:
         QTest::newRow("Russian") << u"Generic"_s << save << u"ru_RU"_s << u"Сохранить"_s;
         QTest::newRow("hyphen for underscore") << u"Generic"_s << u"rpm"_s << u"en-US"_s << u"RPM"_s;
         QTest::newRow("source not ASCII") << u"MainWindow"_s << u"Записи"_s << u"en_US"_s << u"Records"_s;
+        QTest::newRow("of Qt's own") << u"QPlatformTheme"_s << u"Cancel"_s << u"ru_RU"_s << u"Отмена"_s;
         QTest::newRow("no translation") << u"Generic"_s << save << u"en_US"_s << save;
         QTest::newRow("unknown context") << u"Nowhere"_s << save << u"ru_RU"_s << save;
         QTest::newRow("unknown language") << u"Generic"_s << save << u"de_DE"_s << save;
