@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList formatNames{u"csv"_s, u"xlsx"_s};
 constexpr std::array formats{ExperimentExport::Format::Csv, ExperimentExport::Format::Workbook};
 
 } // namespace
@@ -32,6 +31,7 @@ ExitCode runExport(CommandContext &context, const QStringList &arguments)
         return *ended;
     OptionReader reader(parser);
     const QString path = parser.value(u"output"_s);
+    const QStringList formatNames{u"csv"_s, u"xlsx"_s}; // in the order of "formats"
     const auto asked = reader.choice(u"format"_s, formatNames);
     const qsizetype format = asked.value_or(formatNames.indexOf(QFileInfo(path).suffix().toLower()));
     if (path.isEmpty())

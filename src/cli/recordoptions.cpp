@@ -12,10 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList rodentNames{u"rats"_s, u"mice"_s};
+// In the order of their names in read().
 constexpr std::array rodentModes{CurlySpinbarDevice::Rats, CurlySpinbarDevice::Mice};
-
-const QStringList unitNames{u"rps"_s, u"rpm"_s, u"m/s"_s, u"cm/s"_s, u"km/h"_s};
 constexpr std::array units{CurlySpinbar::Speed_RotationsPerSecond, CurlySpinbar::Speed_RotationsPerMinute,
                            CurlySpinbar::Speed_MetersPerSecond, CurlySpinbar::Speed_CentimetersPerSecond,
                            CurlySpinbar::Speed_KilometersPerHour};
@@ -43,10 +41,10 @@ std::optional<RecordOptions> RecordOptions::read(const QCommandLineParser &parse
     RecordOptions options;
     options.wait = reader.seconds(u"wait"_s).value_or(std::chrono::milliseconds::zero());
     options.duration = reader.seconds(u"duration"_s);
-    if (const auto rodent = reader.choice(u"rodent"_s, rodentNames))
+    if (const auto rodent = reader.choice(u"rodent"_s, {u"rats"_s, u"mice"_s}))
         options.rodent = rodentModes.at(std::size_t(*rodent));
     options.speed = reader.number(u"speed"_s, 0, std::numeric_limits<double>::max());
-    if (const auto unit = reader.choice(u"unit"_s, unitNames))
+    if (const auto unit = reader.choice(u"unit"_s, {u"rps"_s, u"rpm"_s, u"m/s"_s, u"cm/s"_s, u"km/h"_s}))
         options.unit = units.at(std::size_t(*unit));
     if (parser.isSet(u"speed"_s) != parser.isSet(u"unit"_s))
         reader.fault(Cli::tr("--speed and --unit go together"));

@@ -81,9 +81,9 @@ FirmwareTarget::Files FirmwareTarget::findFiles(const QString &folder, QStringLi
 {
     Files found;
     for (const ExpectedFile &expected : expectedFiles(folder)) {
-        const auto path = std::find_if(paths.begin(), paths.end(),
+        const auto path = std::find_if(paths.cbegin(), paths.cend(),
                                        [&](const QString &candidate) { return expected.isMetBy(candidate); });
-        if (path == paths.end())
+        if (path == paths.cend())
             continue;
         found.insert(expected.role, *path);
         paths.erase(path);

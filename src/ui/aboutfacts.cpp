@@ -45,13 +45,13 @@ QStringList AboutFacts::manualFolders()
 
 QString AboutFacts::manual(const QStringList &folders, const QString &language)
 {
-    const QString wanted = language.section('_'_L1, 0, 0).toLower();
+    const QString wanted = language.section('_'_L1, 0, 0);
     QString first;
     for (const QString &folder : folders) {
         const QStringList names = FileUtilities::getFilesOfType(folder, u"pdf"_s, false, false);
         for (const QString &name : names) {
             const QString path = folder + '/'_L1 + name;
-            if (name.toLower().contains(wanted))
+            if (name.contains(wanted, Qt::CaseInsensitive))
                 return path;
             if (first.isEmpty())
                 first = path;

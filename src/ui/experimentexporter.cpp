@@ -25,10 +25,12 @@ void ExperimentExporter::exportRecords(const QList<SpinbarRecord *> &records)
     if (records.isEmpty())
         return;
     // A page that comes into view again reloads its records, and a dialog does not prevent that.
-    QObject watch;
     bool vanished = false;
+    QObject watch;
     for (const SpinbarRecord *record : records)
-        QObject::connect(record, &QObject::destroyed, &watch, [&vanished] { vanished = true; });
+        // The connections end with "watch", before the flag.
+        QObject::connect(record, &QObject::destroyed, &watch,
+                         [&vanished] { vanished = true; }); // clazy:exclude=lambda-in-connect
 
     const Target target = askForTarget(ExperimentExport::suggestedName(records));
     if (target.path.isEmpty())

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int MinSize = 10;
-const QColor DefaultColor(0x115599);
+constexpr QColor DefaultColor(0x11, 0x55, 0x99);
 constexpr float DefaultWidth = 2;
 constexpr int Hues = 360;
 constexpr int ToolTipDigits = 6;
