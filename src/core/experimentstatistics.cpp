@@ -51,7 +51,10 @@ double timeSeconds(const ExperimentItem &item)
 
 QString interval(const ExperimentItem &item)
 {
-    const auto clock = [](qint64 timeMs) { return TextHelper::TimeToText(double(timeMs / 1000), false); };
+    const auto clock = [](qint64 timeMs) {
+        const qint64 wholeSeconds = timeMs / 1000;
+        return TextHelper::TimeToText(double(wholeSeconds), false);
+    };
     return u"%1 %2-%3 [%4]"_s.arg(rodentMarker(item.rat), clock(item.start), clock(item.end))
         .arg(qint64(item.index) + 1);
 }
