@@ -28,7 +28,7 @@ QList<double> trace(qint64 hours)
 void paintRecord(benchmark::State &state)
 {
     constexpr int stays = 500;
-    constexpr int lanes = 7;
+    const int lanes = static_cast<int>(state.range(1));
     SpeedScriptViewer viewer(nullptr, false, nullptr);
     viewer.resize(1200, 220);
     QList<ExperimentItem> bars;
@@ -41,7 +41,12 @@ void paintRecord(benchmark::State &state)
     for (auto _ : state)
         viewer.render(&target);
 }
-BENCHMARK(paintRecord)->Arg(1)->Arg(6)->Arg(24)->Unit(benchmark::kMillisecond);
+BENCHMARK(paintRecord)
+    ->Args({1, 7})
+    ->Args({6, 7})
+    ->Args({24, 7})
+    ->Args({24, 4})
+    ->Unit(benchmark::kMillisecond);
 
 ScriptPoints waves(int count)
 {

@@ -111,7 +111,7 @@ bool startRecording(Operator &work)
 /// Goal: under 3 % of one core.
 void recordInVisibleWindow(benchmark::State &state)
 {
-    constexpr int MeasuredMs = 30'000;
+    constexpr int MeasuredMs = 20'000;
     const InstrumentProcess instrument(1);
     Operator work(instrument.port());
     if (!startRecording(work))
@@ -123,7 +123,7 @@ void recordInVisibleWindow(benchmark::State &state)
         state.counters["percent"] = 100 * usedMs / MeasuredMs;
     }
 }
-BENCHMARK(recordInVisibleWindow)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(recordInVisibleWindow)->Iterations(1)->Repetitions(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 std::size_t heapBytes()
 {
@@ -169,7 +169,11 @@ void recordAnHourAtTwentyTimesTheRate(benchmark::State &state)
         state.counters["bytesPerLine"] = (double(heapBytes()) - double(before)) / LinesPerHour;
     }
 }
-BENCHMARK(recordAnHourAtTwentyTimesTheRate)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(recordAnHourAtTwentyTimesTheRate)
+    ->Iterations(1)
+    ->Repetitions(1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 /// Goal: at most 60 ms at the 99th percentile, which is one tick of the exchange and a little.
 void speedFromSliderToWire(benchmark::State &state)
@@ -209,7 +213,7 @@ void speedFromSliderToWire(benchmark::State &state)
     state.counters["p99Ms"] = percentile(0.99);
     state.counters["maxMs"] = percentile(1);
 }
-BENCHMARK(speedFromSliderToWire)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(speedFromSliderToWire)->Iterations(1)->Repetitions(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int TableRows = 1000;
 constexpr int EarlyLine = 1000;
-constexpr int HalfDay = BenchData::LinesPerDay / 2;
+constexpr int SixHours = 6 * BenchData::LinesPerHour;
 
 /// An experiment folder with a log of the given length, made once each.
 QString experimentFolder(int lines)
@@ -66,6 +66,7 @@ void loadStatusLog(benchmark::State &state)
         record.loadStatus(true);
         benchmark::DoNotOptimize(record.speeds().size());
     }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
 void tableOfLoadedLog(benchmark::State &state)
@@ -95,7 +96,7 @@ void addStatusAtLine(benchmark::State &state)
         record.addStatus(message(line++));
 }
 
-// What the main thread does for one message: cut it out of the bytes, read it, feed four lanes, record it.
+// What the main thread does for one message: cut it out of the bytes, read it, feed all lanes, record it.
 void messageFromBytesToRecord(benchmark::State &state)
 {
     const QTemporaryDir folder;
@@ -103,19 +104,21 @@ void messageFromBytesToRecord(benchmark::State &state)
     record.start();
     CurlyMessageParser parser;
     InstrumentStatus status;
+    const int laneCount = int(state.range(0));
+    const bool mice = laneCount == InstrumentStatus::MouseLanes;
     std::vector<std::unique_ptr<SpinbarDetection>> lanes;
-    for (int lane = 0; lane < InstrumentStatus::RatLanes; ++lane)
-        lanes.push_back(std::make_unique<SpinbarDetection>(lane, true));
+    for (int lane = 0; lane < laneCount; ++lane)
+        lanes.push_back(std::make_unique<SpinbarDetection>(lane, !mice));
     int line = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        const QByteArray bytes = '{' + BenchData::statusLine(line++).replace(';', ',') + '}';
+        const QByteArray bytes = '{' + BenchData::statusLine(line++, laneCount).replace(';', ',') + '}';
         state.ResumeTiming();
         const QStringList messages = parser.parseText(QString::fromUtf8(bytes));
         for (const QString &message : messages) {
-            status.apply(message, false);
+            status.apply(message, mice);
             for (std::size_t lane = 0; lane < lanes.size(); ++lane) {
-                lanes[lane]->update(status.ratReadings.at(qsizetype(lane)), status.rotationCounter,
+                lanes[lane]->update(status.readings(mice).at(qsizetype(lane)), status.rotationCounter,
                                     status.clock);
             }
             record.addStatus(message);
@@ -125,9 +128,22 @@ void messageFromBytesToRecord(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(readAndFindLineEnds)->Arg(HalfDay)->Arg(BenchData::LinesPerDay)->Unit(benchmark::kMillisecond);
-BENCHMARK(loadStatusLog)->Arg(HalfDay)->Arg(BenchData::LinesPerDay)->Unit(benchmark::kMillisecond);
-BENCHMARK(tableOfLoadedLog)->Arg(BenchData::LinesPerDay)->Unit(benchmark::kMillisecond);
-BENCHMARK(addStatusAtLine)->Arg(EarlyLine)->Arg(BenchData::LinesPerDay)->Iterations(20000);
-BENCHMARK(messageFromBytesToRecord);
+BENCHMARK(readAndFindLineEnds)->Arg(BenchData::LinesPerDay)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadStatusLog)
+    ->Arg(BenchData::LinesPerHour)
+    ->Arg(SixHours)
+    ->Arg(BenchData::LinesPerDay)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(tableOfLoadedLog)
+    ->Arg(BenchData::LinesPerHour)
+    ->Arg(SixHours)
+    ->Arg(BenchData::LinesPerDay)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(addStatusAtLine)
+    ->Arg(EarlyLine)
+    ->Arg(BenchData::LinesPerHour)
+    ->Arg(SixHours)
+    ->Arg(BenchData::LinesPerDay)
+    ->Iterations(20000);
+BENCHMARK(messageFromBytesToRecord)->Arg(BenchData::LanesOfRats)->Arg(BenchData::LanesOfMice);
 BENCHMARK_MAIN();

@@ -16,7 +16,6 @@ constexpr qint64 FirstClockMs = 60'000;
 constexpr qint64 CounterStep = 632;
 constexpr qint64 FirstTimestampMs = 1'700'000'000'000;
 constexpr qint64 HourMs = 3'600'000;
-constexpr int LanesOfRats = 4;
 constexpr double RotationsOfRow = 3333.0;
 
 QString experimentName(int number)
@@ -27,12 +26,12 @@ QString experimentName(int number)
 
 } // namespace
 
-QByteArray BenchData::statusLine(int line)
+QByteArray BenchData::statusLine(int line, int lanes)
 {
     const qint64 clock = FirstClockMs + qint64(line) * StatusPeriodMs;
     const qint64 counter = qint64(line) * CounterStep + line % 7;
     QByteArray text = "S;1;0;0";
-    for (int lane = 0; lane < LanesOfRats; ++lane)
+    for (int lane = 0; lane < lanes; ++lane)
         text += ';' + QByteArray::number((line / 50 + lane) % 3 == 0 ? 20 + line % 3 : 40 - line % 3, 16);
     return text + ';' + QByteArray::number(counter, 16) + ';' + QByteArray::number(clock, 16);
 }

@@ -7,10 +7,13 @@ namespace BenchData {
 
 /// Status lines of one day at five a second.
 inline constexpr int LinesPerDay = 24 * 3600 * 5;
+inline constexpr int LinesPerHour = LinesPerDay / 24;
 inline constexpr int StatusPeriodMs = 200;
+inline constexpr int LanesOfRats = 4;
+inline constexpr int LanesOfMice = 7;
 
 /// One line of a "status.log" without its end; \a line counts from 0.
-QByteArray statusLine(int line);
+QByteArray statusLine(int line, int lanes = LanesOfRats);
 
 bool writeStatusLog(const QString &path, int lines);
 
