@@ -127,7 +127,8 @@ void fillTable(QTableWidget *table, const QList<QList<QVariant>> &rows)
         header->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
-ExperimentTable::ExperimentTable(const QString &accessibleName)
+ExperimentTable::ExperimentTable(const QString &accessibleName, QWidget *parent)
+    : QTableWidget(parent)
 {
     setAccessibleName(accessibleName);
     setTabKeyNavigation(false);

@@ -15,7 +15,7 @@ class ExperimentTable : public QTableWidget
     Q_OBJECT
 
 public:
-    explicit ExperimentTable(const QString &accessibleName);
+    explicit ExperimentTable(const QString &accessibleName, QWidget *parent = nullptr);
 
     /// As fillTable().
     void setRows(const QList<QList<QVariant>> &rows);

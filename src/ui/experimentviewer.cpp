@@ -17,8 +17,8 @@ constexpr int GraphMinimumHeight = 220;
 
 ExperimentViewer::ExperimentViewer(QWidget *parent)
     : QWidget(parent)
-    , m_table(new ExperimentTable(tr("Results")))
-    , m_graph(new SpeedScriptViewer(nullptr, false, nullptr))
+    , m_table(new ExperimentTable(tr("Results"), this))
+    , m_graph(new SpeedScriptViewer(nullptr, false, this))
 {
     setContentsMargins(0, 0, 0, 0);
     m_graph->setMinimumHeight(GraphMinimumHeight);

@@ -20,7 +20,7 @@ QString summaryTitle()
 
 MultiExperimentViewer::MultiExperimentViewer(QWidget *parent)
     : QWidget(parent)
-    , m_table(new ExperimentTable(summaryTitle()))
+    , m_table(new ExperimentTable(summaryTitle(), this))
 {
     setContentsMargins(0, 0, 0, 0);
     auto *layout = new QVBoxLayout(this);

@@ -27,9 +27,14 @@ void setIcon(QPushButton *button, const QString &path)
 
 } // namespace
 
-QWidget *PageBar::below(QWidget *main, const QList<QWidget *> &widgets)
+void PageBar::fill(QWidget *page, QWidget *main, const QList<QWidget *> &widgets)
 {
-    auto *bar = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(main, Filling);
+    auto *bar = new QWidget(page);
+    layout->addWidget(bar);
     bar->setContentsMargins(BarMargin, BarMargin, BarMargin, BarMargin);
     bar->setMinimumHeight(BarHeight);
     StyleHelper::Instance()->setStyledBackground(bar, u"--n-idle-bg"_s, Qt::transparent);
@@ -42,13 +47,6 @@ QWidget *PageBar::below(QWidget *main, const QList<QWidget *> &widgets)
         else
             row->addStretch();
     }
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(main, Filling);
-    layout->addWidget(bar);
-    return page;
 }
 
 QPushButton *PageBar::exportButton(const QString &text, const QString &tooltip)

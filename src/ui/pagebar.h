@@ -9,8 +9,8 @@ class QWidget;
 /// The bars at the foot of the records page and their buttons.
 namespace PageBar {
 
-/// A widget with \a main and a bar of \a widgets below it. A null entry is a stretch.
-QWidget *below(QWidget *main, const QList<QWidget *> &widgets);
+/// Fills the empty \a page with \a main and a bar of \a widgets below it. A null entry is a stretch.
+void fill(QWidget *page, QWidget *main, const QList<QWidget *> &widgets);
 
 QPushButton *exportButton(const QString &text, const QString &tooltip);
 /// With an icon only; the tooltip is its accessible name.

@@ -61,8 +61,6 @@ PageDatabase::PageDatabase(QWidget *parent)
     , m_records(new ExperimentRecords(this))
     , m_exporter(SpinbarModel::instance(), this)
 {
-    createTable();
-    createStack();
     layOut();
 }
 
@@ -76,9 +74,9 @@ PageDatabase::~PageDatabase()
     m_settings->save();
 }
 
-void PageDatabase::createTable()
+void PageDatabase::createTable(QWidget *side)
 {
-    m_table = new RecordsTable;
+    m_table = new RecordsTable(side);
     m_table->setAccessibleName(QCoreApplication::translate("MainWindow", "Записи"));
     auto *remover = new QShortcut(QKeySequence(QKeySequence::Delete), m_table);
     remover->setContext(Qt::WidgetShortcut);
@@ -91,53 +89,60 @@ void PageDatabase::createTable()
                                   &PageDatabase::showMenu);
 }
 
-void PageDatabase::createStack()
+void PageDatabase::createStack(QWidget *parent)
 {
     m_noDataLabel = new QLabel(tr("No data"));
     m_noDataLabel->setStyleSheet(u"color: #999; font-size: 20px"_s);
     m_noDataLabel->setAlignment(Qt::AlignCenter);
-    m_singlePage = createSinglePage();
-    m_multiPage = createMultiPage();
-    m_stack = new QStackedWidget;
+    m_stack = new QStackedWidget(parent);
     m_stack->setMinimumWidth(LeastStackWidth);
+    m_singlePage = new QWidget(m_stack);
+    m_multiPage = new QWidget(m_stack);
     for (QWidget *page : {static_cast<QWidget *>(m_noDataLabel), m_singlePage, m_multiPage})
         m_stack->addWidget(page);
+    fillSinglePage();
+    fillMultiPage();
 }
 
-QWidget *PageDatabase::createSinglePage()
+void PageDatabase::fillSinglePage()
 {
     m_dateLabel = UIHelper::GenerateLabelWithName({}, u"subtext"_s);
     m_dateLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_singleViewer = new ExperimentViewer;
+    m_singleViewer = new ExperimentViewer(m_singlePage);
     auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
     connect(exporter, &QPushButton::clicked, this, [this] { exportExperiments(true); });
-    return PageBar::below(m_singleViewer, {m_dateLabel, nullptr, exporter});
+    PageBar::fill(m_singlePage, m_singleViewer, {m_dateLabel, nullptr, exporter});
 }
 
-QWidget *PageDatabase::createMultiPage()
+void PageDatabase::fillMultiPage()
 {
-    m_multiViewer = new MultiExperimentViewer;
+    m_multiViewer = new MultiExperimentViewer(m_multiPage);
     auto *exporter = PageBar::exportButton(tr("Export"), tr("Export to spreadsheet"));
     connect(exporter, &QPushButton::clicked, this, [this] { exportExperiments(false); });
-    return PageBar::below(m_multiViewer, {nullptr, exporter});
+    PageBar::fill(m_multiPage, m_multiViewer, {nullptr, exporter});
 }
 
-QWidget *PageDatabase::createTableSide()
+void PageDatabase::fillTableSide(QWidget *side)
 {
+    createTable(side);
     auto *open = PageBar::toolButton(u":/icons/folder.svg"_s, tr("Open in explorer"));
     auto *refresh = PageBar::toolButton(u":/icons/refresh.svg"_s, tr("Reload records"));
     connect(open, &QPushButton::clicked, this, &PageDatabase::openRecordsFolder);
     connect(refresh, &QPushButton::clicked, this, &PageDatabase::reload);
-    QWidget *side = PageBar::below(m_table, {nullptr, open, refresh});
+    PageBar::fill(side, m_table, {nullptr, open, refresh});
     side->setMinimumWidth(LeastTableSideWidth);
-    return side;
 }
 
+// From the page downwards: what is moved with all its children takes on the style sheet anew.
 void PageDatabase::layOut()
 {
-    auto *splitter = new QSplitter;
-    splitter->addWidget(createTableSide());
-    splitter->addWidget(m_stack);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *splitter = new QSplitter(this);
+    layout->addWidget(splitter);
+    auto *side = new QWidget(splitter);
+    fillTableSide(side);
+    createStack(splitter);
     splitter->setChildrenCollapsible(false);
     const double left = m_settings->getDatabaseSplitterRatio() * SplitterScale;
     splitter->setSizes({int(std::clamp(left, 0.0, MostLeftSize)), SplitterScale});
@@ -146,9 +151,6 @@ void PageDatabase::layOut()
         if (sizes.constLast() > 0)
             m_settings->setDatabaseSplitterRatio(double(sizes.constFirst()) / sizes.constLast());
     });
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(splitter);
 }
 
 void PageDatabase::showEvent(QShowEvent *event)

@@ -44,11 +44,11 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void createTable();
-    void createStack();
-    QWidget *createSinglePage();
-    QWidget *createMultiPage();
-    QWidget *createTableSide();
+    void createTable(QWidget *side);
+    void createStack(QWidget *parent);
+    void fillSinglePage();
+    void fillMultiPage();
+    void fillTableSide(QWidget *side);
     void layOut();
     void clear();
     void clearViewers();

@@ -60,7 +60,7 @@ SpeedControl::SpeedControl(SpinbarModel &model, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(createTitleRow());
-    m_tabs = new QTabWidget;
+    m_tabs = new QTabWidget(this);
     layout->addWidget(m_tabs, Filling);
     createManualWidgets();
     m_runner = new SpeedScriptSelectAndRunWidget(model, m_tabs);
@@ -80,8 +80,8 @@ QLayout *SpeedControl::createTitleRow()
                          translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение включено")));
     m_offButton = ControlRow::offButton(
         u"#F60"_s, translated(QT_TRANSLATE_NOOP("SpinbarController", "Выключить вращение")));
-    auto *unit =
-        new PropertyListControl(m_settings, u"RotationDimension"_s, PropertyListControl::ViewMode_Property);
+    auto *unit = new PropertyListControl(m_settings, u"RotationDimension"_s,
+                                         PropertyListControl::ViewMode_Property, this);
     unit->showDefaultButtons(false);
     unit->showHeaders(false);
     unit->setMinimumEditorWidth(0);

@@ -7,7 +7,7 @@
 
 DatePropertyView::DatePropertyView(AbstractMetaDescription *description, QWidget *parent)
     : BasePropertyView(description, parent)
-    , m_edit(new QDateEdit)
+    , m_edit(new QDateEdit(this))
 {
     m_edit->setCalendarPopup(true);
     setEditor(m_edit);

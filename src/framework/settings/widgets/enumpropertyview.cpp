@@ -9,7 +9,7 @@
 
 EnumPropertyView::EnumPropertyView(AbstractMetaDescription *description, QWidget *parent)
     : BasePropertyView(description, parent)
-    , m_box(new QComboBox)
+    , m_box(new QComboBox(this))
 {
     m_box->setView(new QListView(m_box)); // a style sheet reaches the items of this one only
     const QMetaEnum enumeration = description->enumerator();

@@ -15,7 +15,7 @@ EnumStringListPropertyView::EnumStringListPropertyView(AbstractMetaDescription *
 {
     if (description->enums.isEmpty())
         return;
-    m_box = new QComboBox;
+    m_box = new QComboBox(this);
     m_box->setView(new QListView(m_box));
     for (qsizetype i = 0; i < description->enums.size(); ++i)
         m_box->addItem(PropertyText::translated(description->enums.at(i)), static_cast<int>(i));

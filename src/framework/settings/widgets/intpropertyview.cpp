@@ -10,7 +10,7 @@
 
 IntPropertyView::IntPropertyView(AbstractMetaDescription *description, QWidget *parent)
     : BasePropertyView(description, parent)
-    , m_box(new QSpinBox)
+    , m_box(new QSpinBox(this))
 {
     using Limits = std::numeric_limits<int>;
     m_box->setMinimum(description->hasMin ? ValueText::cutToInt(description->min) : Limits::min());

@@ -48,7 +48,7 @@ PropertyListControl::PropertyListControl(AbstractSettings *settings, const QStri
             addCategory(category);
         }
     }
-    placeInner();
+    m_grid->setRowStretch(m_grid->rowCount(), Stretch);
     reorderTabOrder();
 }
 
@@ -60,7 +60,7 @@ PropertyListControl::PropertyListControl(AbstractMetaDescription *description, Q
     createInner();
     addPropertyToLayout(description, m_grid);
     m_grid->setSpacing(0);
-    placeInner();
+    m_grid->setRowStretch(m_grid->rowCount(), Stretch);
 }
 
 void PropertyListControl::createInner()
@@ -69,11 +69,12 @@ void PropertyListControl::createInner()
     m_grid = new QGridLayout(m_inner);
     UIHelper::SetGridMargins(m_grid, 0, GridSpacingPx, GridSpacingPx);
     m_grid->setColumnStretch(StretchingColumn, Stretch);
+    placeInner();
 }
 
+// Before there are rows: what is moved with all its children takes on the style sheet anew.
 void PropertyListControl::placeInner()
 {
-    m_grid->setRowStretch(m_grid->rowCount(), Stretch);
     if (m_mode == ViewMode_All || m_mode == ViewMode_Category) {
         placeInnerInScrollArea();
         return;

@@ -70,7 +70,8 @@ private:
     void addCategoryCaption(const QString &category);
     int addPropertyToLayout(AbstractMetaDescription *description, QGridLayout *grid);
     static QWidget *createCaption(const AbstractMetaDescription &description);
-    static BasePropertyView *getPropertyView(AbstractMetaDescription *description, int &columnSpan);
+    static BasePropertyView *getPropertyView(AbstractMetaDescription *description, int &columnSpan,
+                                             QWidget *parent);
 
     void bindVisibility(AbstractMetaDescription *description);
     bool checkVisibility(const QString &name, const QString &condition) const;

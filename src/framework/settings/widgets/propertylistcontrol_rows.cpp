@@ -44,7 +44,7 @@ int PropertyListControl::addPropertyToLayout(AbstractMetaDescription *descriptio
         return -1;
     int columnSpan = 1;
     QWidget *caption = createCaption(*description);
-    BasePropertyView *editor = getPropertyView(description, columnSpan);
+    BasePropertyView *editor = getPropertyView(description, columnSpan, grid->parentWidget());
     editor->setContentsMargins(0, 0, EditorRightMarginPx, 0);
     if (const QString tip = toolTipOf(*description); !tip.isEmpty())
         editor->setToolTip(tip);
@@ -80,40 +80,41 @@ QWidget *PropertyListControl::createCaption(const AbstractMetaDescription &descr
     return caption;
 }
 
-BasePropertyView *PropertyListControl::getPropertyView(AbstractMetaDescription *description, int &columnSpan)
+BasePropertyView *PropertyListControl::getPropertyView(AbstractMetaDescription *description, int &columnSpan,
+                                                       QWidget *parent)
 {
     using Kind = EditorChoice::Kind;
     const EditorChoice choice = EditorChoice::of(*description);
     columnSpan = choice.columnSpan;
     switch (choice.kind) {
     case Kind::Special:
-        return new SpecialPropertyView(description);
+        return new SpecialPropertyView(description, parent);
     case Kind::Multiline:
-        return new MultilinePropertyView(description);
+        return new MultilinePropertyView(description, parent);
     case Kind::Slider:
-        return new SliderPropertyView(description);
+        return new SliderPropertyView(description, parent);
     case Kind::EnumStringList:
-        return new EnumStringListPropertyView(description);
+        return new EnumStringListPropertyView(description, parent);
     case Kind::Range:
-        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_Range);
+        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_Range, parent);
     case Kind::Enum:
-        return new EnumPropertyView(description);
+        return new EnumPropertyView(description, parent);
     case Kind::Point:
-        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_Point);
+        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_Point, parent);
     case Kind::PointF:
-        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_PointF);
+        return new DualDoubleSpinBox(description, DualDoubleSpinBox::DualMode_PointF, parent);
     case Kind::Bool:
-        return new BoolPropertyView(description);
+        return new BoolPropertyView(description, parent);
     case Kind::Int:
-        return new IntPropertyView(description);
+        return new IntPropertyView(description, parent);
     case Kind::Date:
-        return new DatePropertyView(description);
+        return new DatePropertyView(description, parent);
     case Kind::Double:
-        return new DoublePropertyView(description);
+        return new DoublePropertyView(description, parent);
     case Kind::Color:
-        return new ColorPropertyView(description);
+        return new ColorPropertyView(description, parent);
     case Kind::String:
         break;
     }
-    return new StringPropertyView(description);
+    return new StringPropertyView(description, parent);
 }
