@@ -227,11 +227,14 @@ void MetaDescription::setDefault()
 {
     if (!hasDefault)
         return;
-    metaprop().reset(m_object);
-    // Points and sizes have no text of their own; their declared text stands.
-    if (const QVariant value = getValue(); value.canConvert<QString>() && value.toString() != defaultText)
+    const bool wasReset = metaprop().reset(m_object);
+    const QVariant value = getValue();
+    // Points and sizes have no text of their own: the declared one stays, and counts where nothing else does.
+    const bool hasText = value.canConvert<QString>();
+    if (hasText && value.toString() != defaultText)
         defaultText = value.toString();
-    setTextValue(defaultText);
+    if (hasText || !wasReset)
+        setTextValue(defaultText);
     Q_EMIT valueChanged(getValue());
 }
 

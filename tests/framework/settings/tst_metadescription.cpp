@@ -44,8 +44,11 @@ class OddObject : public QObject
     Q_CLASSINFO("OtherDefault", "someColor")
     Q_PROPERTY(Qt::SortOrder Order MEMBER order)
     Q_CLASSINFO("OrderDefault", "Qt::SortOrder::DescendingOrder")
+    Q_PROPERTY(QPoint Spot MEMBER spot RESET resetSpot)
+    Q_CLASSINFO("SpotDefault", "QPoint(1, 2)")
 
 public:
+    void resetSpot() { spot = {5, 6}; }
     Q_INVOKABLE QString answer() const { return u"42"_s; }
 
     int a = 0;
@@ -53,6 +56,7 @@ public:
     QString s;
     QColor c;
     Qt::SortOrder order = Qt::AscendingOrder;
+    QPoint spot;
 };
 
 class TestMetaDescription : public QObject
@@ -148,6 +152,11 @@ private Q_SLOTS:
         settings.setPlace({8, 8});
         place.setDefault();
         QCOMPARE(settings.getPlace(), QPoint(1, 2));
+        OddObject odd;
+        MetaDescriptor descriptor;
+        descriptor.set(&odd);
+        descriptor.propertyByName(u"Spot"_s)->setDefault();
+        QCOMPARE(odd.spot, QPoint(5, 6));
 
         AbstractMetaDescription &fleeting = *settings.getPropertyByName(u"Fleeting"_s);
         QSignalSpy quiet(&fleeting, &AbstractMetaDescription::valueChanged);
