@@ -300,6 +300,10 @@
 <context>
     <name>ComUpdaterWidget</name>
     <message>
+        <source>Attention: the firmware has most likely NOT been written!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Done!</source>
         <translation type="unfinished"></translation>
     </message>

@@ -299,6 +299,10 @@
 <context>
     <name>ComUpdaterWidget</name>
     <message>
+        <source>Attention: the firmware has most likely NOT been written!</source>
+        <translation>Внимание: скорее всего, прошивка НЕ записана!</translation>
+    </message>
+    <message>
         <source>Done!</source>
         <translation>Готово!</translation>
     </message>

@@ -19,6 +19,9 @@ using Kind = BundleProblem::Kind;
 namespace {
 
 constexpr qint64 ChunkBytes = qint64(64) * 1024;
+// Each entry has its header in the archive's directory. The files' own bytes may read like some.
+constexpr QByteArrayView HeaderSignature("PK\x01\x02");
+constexpr qsizetype MaxHeaders = 100 * BundleArchive::MaxEntries;
 // A Unix file mode stands in the upper half of an entry's attributes.
 constexpr int ModeShift = 16;
 constexpr quint32 TypeMask = 0170000;
@@ -68,11 +71,15 @@ void BundleArchive::Discard::operator()(zip *archive) const
 
 BundleArchive::BundleArchive(const QByteArray &bytes)
     : m_bytes(bytes)
-    , m_archive(openedArchive(m_bytes))
+    // Opening takes memory for each entry.
+    , m_holdsTooMany(m_bytes.count(HeaderSignature) > MaxHeaders)
+    , m_archive(m_holdsTooMany ? nullptr : openedArchive(m_bytes))
 {}
 
 BundleProblem BundleArchive::unpack(const QString &folder)
 {
+    if (m_holdsTooMany)
+        return {Kind::TooManyEntries, {}};
     if (!m_archive)
         return {Kind::NotAnArchive, {}};
     BundleProblem problem = readEntries();
@@ -90,7 +97,7 @@ BundleProblem BundleArchive::readEntries()
     m_entries.clear();
     const qint64 count = zip_get_num_entries(m_archive.get(), 0);
     if (count > MaxEntries)
-        return {Kind::TooManyEntries, QString::number(count)};
+        return {Kind::TooManyEntries, {}};
     qint64 statedBytes = 0;
     for (qint64 index = 0; index < count; ++index) {
         if (const BundleProblem problem = readEntry(quint64(index), statedBytes); problem.kind != Kind::None)

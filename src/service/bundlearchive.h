@@ -47,6 +47,7 @@ private:
     BundleProblem write(const Entry &entry, const QString &path, qint64 &writtenBytes);
 
     QByteArray m_bytes;
+    bool m_holdsTooMany = false;
     std::unique_ptr<zip, Discard> m_archive;
     QList<Entry> m_entries;
 };

@@ -131,6 +131,10 @@ private slots:
         QTest::newRow("twice") << BundleMaker::archive(withFiles({{"b.hex", "3"}})).replace("b.hex", "a.hex")
                                << forbidden;
         QTest::newRow("a thousand files") << thousandFiles() << u"more than 1000 entries"_s;
+        // Before any of them has cost memory; no archive needs more for that.
+        QTest::newRow("countless entries")
+            << QByteArray("PK\1\2").repeated(100 * BundleArchive::MaxEntries + 1)
+            << u"more than 1000 entries"_s;
         QTest::newRow("no conf") << BundleMaker::archive({{"a.hex", "1"}})
                                  << u"Missing in the bundle: .conf"_s;
         QTest::newRow("deeper") << BundleMaker::archive({{"a.hex", "1"}, {"sub/a.conf", "2"}})

@@ -26,7 +26,8 @@ namespace {
 constexpr int Margin = 16;
 constexpr int Spacing = 12;
 constexpr int LeastWidth = 560;
-constexpr int OutputHeight = 140;
+constexpr int LeastOutputHeight = 80;
+constexpr int StateLines = 3;
 constexpr int MostPortsHeight = 200;
 constexpr auto ProgressInterval = 1s;
 // However fast the tool prints, the window paints a few times a second and has time for the rest.
@@ -85,13 +86,16 @@ void ComUpdaterWidget::createReport()
     m_stateLabel = new QLabel;
     m_stateLabel->setTextFormat(Qt::PlainText);
     m_stateLabel->setWordWrap(true);
+    // A window does not grow by the lines into which a text wraps.
+    m_stateLabel->setMinimumHeight(StateLines * m_stateLabel->fontMetrics().lineSpacing());
+    m_stateLabel->setAlignment(Qt::AlignTop);
     m_stateLabel->hide();
     m_outputView = new QPlainTextEdit;
     m_outputView->setReadOnly(true);
     // The theme's least height of input fields would win over the widget's own.
-    m_outputView->setStyleSheet(u"min-height: %1px"_s.arg(OutputHeight));
+    m_outputView->setStyleSheet(u"min-height: %1px"_s.arg(LeastOutputHeight));
     m_outputView->setAccessibleName(tr("Output of the tool"));
-    m_outputView->hide();
+    m_outputView->setPlaceholderText(m_outputView->accessibleName());
     m_progressTimer.setInterval(ProgressInterval);
     m_outputTimer.setInterval(OutputInterval);
     m_outputTimer.setSingleShot(true);
@@ -189,7 +193,8 @@ void ComUpdaterWidget::updateNextPort()
         if (!m_outputTimer.isActive())
             m_outputTimer.start();
     });
-    connect(m_run, &ToolRun::finished, this, &ComUpdaterWidget::handleToolEnd);
+    // The next run takes the place of this one, which may still be at work when it says so.
+    connect(m_run, &ToolRun::finished, this, &ComUpdaterWidget::handleToolEnd, Qt::QueuedConnection);
     m_runTime.start();
     m_progressTimer.start();
     showProgress();
@@ -202,13 +207,18 @@ void ComUpdaterWidget::handleToolEnd()
     m_progressTimer.stop();
     m_outputTimer.stop();
     showOutput();
-    const QString trouble = m_run->trouble();
     const bool failed = m_run->output().tellsFailure();
     const QString verdict = failed ? tr("There were errors while uploading firmware") : tr("Done!");
-    m_stateLabel->setText(QStringList({m_port.name + ": "_L1 + verdict, trouble}).join(u'\n').trimmed());
+    QString details = m_run->trouble();
+    const bool isSound = !failed && details.isEmpty();
+    // The verdict goes by what the tool printed, but must not make a success of what is none.
+    if (!failed && !isSound)
+        details.prepend(tr("Attention: the firmware has most likely NOT been written!") + u'\n');
+    const QString state = failed || isSound ? verdict + u'\n' + details : details;
+    m_stateLabel->setText(m_port.name + ": "_L1 + state.trimmed());
     const QPointer<ComUpdaterWidget> self(this);
-    AppHelper::warningMessage(
-        verdict, {}, failed || !trouble.isEmpty() ? QMessageBox::Warning : QMessageBox::Information, trouble);
+    AppHelper::warningMessage(verdict, {}, isSound ? QMessageBox::Information : QMessageBox::Warning,
+                              details);
     if (!self)
         return;
     qCDebug(serviceLog) << "END";
@@ -221,10 +231,8 @@ void ComUpdaterWidget::setUpdating(bool updating)
     m_openButton->setEnabled(!updating);
     m_ports->setEnabled(!updating);
     m_updateButton->setEnabled(!updating && m_bundle.isValid());
-    if (updating) {
+    if (updating)
         m_stateLabel->show();
-        m_outputView->show();
-    }
 }
 
 void ComUpdaterWidget::showProgress()

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
@@ -69,6 +70,13 @@ public:
 
     void update() const { QTest::mouseClick(updateButton(), Qt::LeftButton); }
 
+    /// What stands right above the output.
+    QString state() const
+    {
+        const QLayout *layout = updater->layout();
+        return qobject_cast<QLabel *>(layout->itemAt(layout->count() - 2)->widget())->text();
+    }
+
     QString output() const { return updater->findChild<QPlainTextEdit *>()->toPlainText(); }
 
     ComUpdaterWidget *updater;
@@ -115,15 +123,16 @@ private slots:
         QTest::addColumn<QByteArray>("behaviour");
         QTest::addColumn<QString>("said");
         const QString done = u"Done!|"_s;
+        const QString doubt = done + u"Attention: the firmware has most likely NOT been written!\n"_s;
         QTest::newRow("success") << QByteArray("succeed") << done;
         QTest::newRow("failure") << QByteArray("fail") << u"There were errors while uploading firmware|"_s;
-        QTest::newRow("exit code") << QByteArray("code") << done + u"The tool ended with the code 3"_s;
-        QTest::newRow("crash") << QByteArray("crash") << done + u"The tool crashed"_s;
+        QTest::newRow("exit code") << QByteArray("code") << doubt + u"The tool ended with the code 3"_s;
+        QTest::newRow("crash") << QByteArray("crash") << doubt + u"The tool crashed"_s;
         QTest::newRow("silence") << QByteArray("silent")
-                                 << done + u"The tool was silent for too long and was stopped"_s;
+                                 << doubt + u"The tool was silent for too long and was stopped"_s;
         QTest::newRow("flood") << QByteArray("flood") << done;
         QTest::newRow("no program") << QByteArray("no program")
-                                    << done + u"The tool could not be started: "_s;
+                                    << doubt + u"The tool could not be started: "_s;
         QTest::newRow("closed at once") << QByteArray() << QString();
         QTest::newRow("no instrument yet") << QByteArray() << QString();
     }
@@ -253,6 +262,8 @@ private:
         driver.update();
         QTRY_VERIFY_WITH_TIMEOUT(!driver.updater->isUpdating(), 60'000);
         QCOMPARE(driver.said.size(), 1);
+        const bool done = behaviour == "succeed" || behaviour == "flood";
+        QCOMPARE(driver.state().endsWith("Done!"_L1), done);
         if (behaviour == "flood" || behaviour == "no program")
             return;
         const QString folder = workFolders().value(0);
