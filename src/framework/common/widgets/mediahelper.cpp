@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double PercentOfWhole = 100;
+constexpr double DisabledOpacity = 0.4;
 
 // Never destroyed: pixmaps must not outlive the application object.
 QHash<QString, QIcon> &cache()
@@ -28,6 +29,16 @@ QIcon cached(const QString &key, Make make)
     return *icons.insert(key, make());
 }
 
+QPixmap faded(const QPixmap &pixmap)
+{
+    QPixmap result(pixmap.size());
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setOpacity(DisabledOpacity);
+    painter.drawPixmap(0, 0, pixmap);
+    return result;
+}
+
 /// In the drawing's own size, and in twice that for dense screens.
 QIcon drawnIcon(const QString &svg)
 {
@@ -41,6 +52,8 @@ QIcon drawnIcon(const QString &svg)
     // Otherwise the style tints it in selected rows.
     icon.addPixmap(natural, QIcon::Selected);
     icon.addPixmap(dense, QIcon::Selected);
+    // The style greys for a light background, on which white would do.
+    icon.addPixmap(faded(natural), QIcon::Disabled);
     return icon;
 }
 

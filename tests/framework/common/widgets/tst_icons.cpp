@@ -7,6 +7,8 @@
 #include <QSvgRenderer>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,6 +33,17 @@ Ink ink(const QImage &image)
     }
     result.share = image.isNull() ? 0 : double(drawn) / (double(image.width()) * image.height());
     return result;
+}
+
+int maxAlpha(const QPixmap &pixmap)
+{
+    const QImage image = pixmap.toImage();
+    int greatest = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            greatest = std::max(greatest, image.pixelColor(x, y).alpha());
+    }
+    return greatest;
 }
 
 } // namespace
@@ -64,6 +77,8 @@ private slots:
         const Ink white = ink(MediaHelper::svgColored(path, u"#FFF"_s, u"#000"_s));
         QVERIFY(white.share > 0.05 && !white.hasBlack);
         QVERIFY(!ink(UIHelper::PixmapFromSvg(path, u"#FFF"_s).toImage()).hasBlack);
+        const QIcon coloured = MediaHelper::iconColored(path, u"#FFF"_s, {});
+        QVERIFY(maxAlpha(coloured.pixmap(24, 24, QIcon::Disabled)) < 0.5 * maxAlpha(coloured.pixmap(24, 24)));
         QCOMPARE(AppHelper::findInResources(name + u".svg"_s), "qrc"_L1 + path);
     }
 
