@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Some 200,000 rows, far beyond a day's falls; the parser needs many times the size of its text.
-constexpr qint64 MaxFileBytes = 32 * 1024 * 1024;
+constexpr qint64 MaxFileBytes = 32LL * 1024 * 1024;
 constexpr double MissingTime = -1;
 constexpr int MissingLane = -1;
 

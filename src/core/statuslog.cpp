@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype ChunkBytes = 256 * 1024;
+constexpr qsizetype ChunkBytes = 256LL * 1024;
 // What is kept of a line that goes on and on: enough for its last two fields.
-constexpr qsizetype MaxHeldBytes = 64 * 1024;
+constexpr qsizetype MaxHeldBytes = 64LL * 1024;
 // Shorter lines than a log has, so that the room for its samples is made once.
 constexpr qint64 BytesPerLineEstimate = 32;
 constexpr qint64 MaxLinesEstimate = 1'000'000;

@@ -84,6 +84,8 @@ private slots:
                                     << reload << QString();
         QTest::newRow("other types") << QByteArray(R"({"experiment":{"timestamp":"5","title":5,"items":{}}})")
                                      << true << qint64(0) << QString();
+        QTest::newRow("over 32 MB") << R"({"experiment":{"title":"a"}})" + QByteArray(32 * 1024 * 1024, ' ')
+                                    << false << reload << QString();
         QTest::newRow("fraction") << QByteArray(R"({"experiment":{"timestamp":5.9,"title":"b"}})") << true
                                   << qint64(5) << u"b"_s;
         QTest::newRow("huge") << QByteArray(R"({"experiment":{"timestamp":1e300,"ts":-1e300}})") << true
@@ -178,6 +180,14 @@ private slots:
             QByteArray(700000, 'x') + QByteArray(1000000, ';') + ";A;64\n0;0;0;0;0;0;B;65\n",
             {100, 10, 101, 11});
         row("over long line of few fields", QByteArray(700000, ' ') + "0;0;0;0;0;A;64\n", {});
+        QByteArray backwards;
+        QList<qint64> ascending;
+        for (qint64 time = 10000; time > 0; --time) {
+            backwards +=
+                "S;0;0;0;0;0;" + QByteArray::number(3 * time, 16) + ';' + QByteArray::number(time, 16) + '\n';
+            ascending << 10001 - time << 3 * (10001 - time);
+        }
+        row("ten thousand times backwards", backwards, ascending);
         row("line across pieces", QByteArray(262140, '\n') + "0;0;0;0;0;0;ABC;DEF\n", {0xDEF, 0xABC});
     }
 

@@ -206,6 +206,7 @@ private slots:
         QTest::addColumn<double>("result");
         constexpr double Pi = 3.141592653589793;
         QTest::newRow("top speed per minute") << 4.743589743589744 << 0 << 2 << 0 << 30.0;
+        QTest::newRow("drum from motor per second") << 37.0 / 39 << 0 << 1 << 1 << 0.1;
         QTest::newRow("cm/s to m/s") << 1.0 << 4 << 3 << 0 << 0.01;
         QTest::newRow("a rat drum of 7 cm") << 1.0 << 1 << 4 << 0 << 7 * Pi;
         QTest::newRow("a mouse drum of 4 cm") << 1.0 << 1 << 3 << 1 << 0.04 * Pi;

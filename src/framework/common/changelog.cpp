@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 MaxBytes = 1024 * 1024;
+constexpr qint64 MaxBytes = 1024LL * 1024;
 constexpr auto NamePart = "ChangeLog"_L1;
 
 /// The first "txt" file of the folder whose name holds both.

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr HttpGuard::Limits AnswerLimits{16 * 1024 * 1024, 60s};
+constexpr HttpGuard::Limits AnswerLimits{16LL * 1024 * 1024, 60s};
 
 /// Everything but the letters that never need an escape is escaped, a plus too.
 QByteArray formEncoded(const QMap<QString, QString> &parameters)

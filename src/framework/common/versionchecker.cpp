@@ -22,7 +22,7 @@ namespace {
 
 constexpr int MinIntervalSeconds = 5;
 constexpr int MsPerSecond = 1'000;
-constexpr qint64 MaxReplyBytes = 256 * 1024;
+constexpr qint64 MaxReplyBytes = 256LL * 1024;
 constexpr auto MaxReplyTime = 30s;
 
 qint64 secondsSinceEpoch()

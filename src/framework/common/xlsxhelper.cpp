@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto ByteOrderMark = "\xEF\xBB\xBF";
-constexpr qint64 CopyBytes = 256 * 1024;
+constexpr qint64 CopyBytes = 256LL * 1024;
 
 /// Gives \a fill a device whose content takes the place of the file at once, if it returns true.
 bool writeWhole(const QString &path, const std::function<bool(QFileDevice &)> &fill)
