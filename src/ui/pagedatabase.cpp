@@ -60,8 +60,14 @@ PageDatabase::PageDatabase(QWidget *parent)
     , m_settings(SpinbarModel::instance()->settings())
     , m_records(new ExperimentRecords(this))
     , m_exporter(SpinbarModel::instance(), this)
+{}
+
+void PageDatabase::setVisible(bool visible)
 {
-    layOut();
+    // The start of the program does not wait for what most starts show later, if ever.
+    if (visible && !m_table)
+        layOut();
+    QWidget::setVisible(visible);
 }
 
 PageDatabase::~PageDatabase()
@@ -179,6 +185,10 @@ void PageDatabase::reload()
     // Timers and queued calls go on while the files are read.
     if (m_reading) {
         m_readAgain = true;
+        return;
+    }
+    if (!m_table) {
+        setNeedsReload();
         return;
     }
     clear();

@@ -24,7 +24,8 @@ class PageDatabase : public QWidget
     Q_OBJECT
 
 public:
-    /// For the records folder and the settings of SpinbarModel::instance().
+    /// For the records folder and the settings of SpinbarModel::instance(). Its widgets are made when it is
+    /// first shown, and nothing is read before.
     explicit PageDatabase(QWidget *parent);
     /// Stores how the table is sorted.
     ~PageDatabase() override;
@@ -32,6 +33,8 @@ public:
     /// The records changed: the page is to be filled anew when it is next shown.
     void setNeedsReload() { m_needsReload = true; }
     bool needsReload() const { return m_needsReload; }
+
+    void setVisible(bool visible) override;
 
 public slots:
     void reload();

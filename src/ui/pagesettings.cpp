@@ -26,6 +26,18 @@ PageSettings::PageSettings(QWidget *parent)
     : QWidget(parent)
 {
     setContentsMargins({});
+}
+
+void PageSettings::setVisible(bool visible)
+{
+    // The form is dear, and most starts of the program never show it.
+    if (visible && !layout())
+        layOut();
+    QWidget::setVisible(visible);
+}
+
+void PageSettings::layOut()
+{
     auto *button = new QPushButton(QCoreApplication::translate("Generic", "Script editor"));
     StyleHelper::SetButtonIcon(button, u":/icons/edit.svg"_s, u"#FFF"_s);
     CursorHelper::setCursor(button, Qt::PointingHandCursor);
@@ -33,10 +45,10 @@ PageSettings::PageSettings(QWidget *parent)
     button->setIconSize(IconSize);
     connect(button, &QPushButton::clicked, this, &PageSettings::openScriptEditor);
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Margin, Margin, Margin, Margin);
-    layout->addWidget(button, 0, Qt::AlignLeft);
-    layout->addWidget(new PropertyListControl(SpinbarModel::instance()->settings(), {},
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->addWidget(button, 0, Qt::AlignLeft);
+    column->addWidget(new PropertyListControl(SpinbarModel::instance()->settings(), {},
                                               PropertyListControl::ViewMode_All, this));
 }
 

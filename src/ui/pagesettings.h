@@ -8,8 +8,12 @@ class PageSettings : public QWidget
     Q_OBJECT
 
 public:
+    /// Its widgets are made when it is first shown.
     explicit PageSettings(QWidget *parent);
 
+    void setVisible(bool visible) override;
+
 private:
+    void layOut();
     void openScriptEditor();
 };

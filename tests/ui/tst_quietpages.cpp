@@ -69,6 +69,7 @@ private slots:
     void settingsStandInTheirGroups()
     {
         OperatorBench bench;
+        bench.click(u"Настройки"_s);
         const auto *page = bench.window->findChild<PageSettings *>();
         QCOMPARE(textsOf(*page, u"propertyCategoryLabel"_s),
                  QStringList({u"Общее"_s, u"Эксперимент"_s, u"Детекция"_s}));
