@@ -52,12 +52,13 @@ function(spinbar_test name)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE spinbar_options Qt6::Test ${ARG_LINKS})
     set(home "${PROJECT_BINARY_DIR}/test-home/${name}")
-    foreach(folder data config runtime)
+    # Temporary folders too, since a trash can be reached within one file system only.
+    foreach(folder data config runtime tmp)
         file(MAKE_DIRECTORY "${home}/${folder}")
     endforeach()
     file(CHMOD "${home}/runtime" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 120
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;LC_ALL=C.UTF-8;HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;XDG_RUNTIME_DIR=${home}/runtime;SPINBAR_SERIAL_PORTS=;${ARG_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;LC_ALL=C.UTF-8;HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;XDG_RUNTIME_DIR=${home}/runtime;TMPDIR=${home}/tmp;SPINBAR_SERIAL_PORTS=;${ARG_ENVIRONMENT}")
 endfunction()

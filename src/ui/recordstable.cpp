@@ -20,7 +20,6 @@ namespace {
 
 constexpr int LeastWidth = 200;
 constexpr int LeastSectionWidth = 40;
-constexpr int LeastNameWidth = 120;
 constexpr int MostNameWidth = 220;
 // The theme draws a line around the current cell.
 constexpr int CurrentCellFrame = 4;
@@ -122,11 +121,7 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
 int RecordsTable::sizeHintForColumn(int column) const
 {
     const int content = QTableWidget::sizeHintForColumn(column) + CurrentCellFrame;
-    int others = 0;
-    for (const Column other : {TitleColumn, CommentColumn, CountColumn})
-        others += horizontalHeader()->sectionSizeHint(other);
-    const int most = std::clamp(viewport()->width() - others, LeastNameWidth, MostNameWidth);
-    return column == NameColumn ? std::min(content, most) : content;
+    return column == NameColumn ? std::min(content, MostNameWidth) : content;
 }
 
 void RecordsTable::resizeEvent(QResizeEvent *event)
@@ -142,13 +137,16 @@ void RecordsTable::fitColumns()
     int room = viewport()->width();
     for (const Column column : {NameColumn, CountColumn})
         room -= std::max(sizeHintForColumn(column), header->sectionSizeHint(column));
-    const int least = std::max(header->sectionSizeHint(TitleColumn), header->sectionSizeHint(CommentColumn));
-    const bool even = room >= 2 * least;
-    for (const Column column : {TitleColumn, CommentColumn}) {
+    const int title = header->sectionSizeHint(TitleColumn);
+    const int comment = header->sectionSizeHint(CommentColumn);
+    const bool even = room >= 2 * std::max(title, comment);
+    for (const Column column : {TitleColumn, CommentColumn})
         header->setSectionResizeMode(column, even ? QHeaderView::Stretch : QHeaderView::Fixed);
-        if (!even)
-            header->resizeSection(column, header->sectionSizeHint(column));
-    }
+    if (even)
+        return;
+    const int spare = std::max(room - title - comment, 0);
+    header->resizeSection(TitleColumn, title + spare / 2);
+    header->resizeSection(CommentColumn, comment + spare - spare / 2);
 }
 
 QStringList RecordsTable::selectedPaths() const

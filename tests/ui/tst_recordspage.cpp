@@ -85,17 +85,6 @@ private slots:
         }
     }
 
-    void allColumnsAreSeenInTheLeastWidth()
-    {
-        RecordsBench bench;
-        bench.add(u"2026.11.23-09.54.12.171"_s + QString(200, u'x'), 12);
-        bench.open();
-        bench.page->findChild<QSplitter *>()->setSizes({0, 1000});
-        const QHeaderView *header = bench.table->horizontalHeader();
-        QTRY_COMPARE(header->length(), bench.table->viewport()->width());
-        QVERIFY(header->sectionSize(0) > bench.table->fontMetrics().horizontalAdvance(u"2026.11.23-"_s));
-    }
-
     void captionsAreWholeInANarrowTable()
     {
         RecordsTable table;
