@@ -26,6 +26,8 @@ constexpr double Rate = 100;
 constexpr int PlannedSeconds = 3600;
 constexpr qint64 AllowedGrowthKiB = 16 * 1024;
 constexpr int AllowedDescriptors = 4;
+// A virtual machine is halted itself at times, which looks no different from within.
+constexpr int AllowedHoldups = 3;
 constexpr std::size_t FiguresToSettle = 8;
 
 QTextStream &out()
@@ -216,7 +218,7 @@ bool Soak::report()
         if (mostLate - mostEarly > AllowedDescriptors)
             complain(u"descriptors were not given back"_s);
     }
-    if (m_watchdog.holdups() > 0)
+    if (m_watchdog.holdups() > AllowedHoldups)
         complain(u"the event loop was held up"_s);
     if (m_messages == 0 || m_recordings == 0)
         complain(u"nothing was recorded"_s);
