@@ -154,7 +154,7 @@ private slots:
         const auto row = [](const char *name, const QByteArray &answer, const QStringList &readings) {
             QTest::newRow(name) << answer << readings;
         };
-        row("unknown name", "{MCC:1.05,MAC:0.9,XXX:3,CUR:12}", {u"MCC 1.05"_s, u"MAC 0.9"_s, u"CUR 12"_s});
+        row("unknown name", "{MCC:1.05,MAC:0.9,NEW:3,CUR:12}", {u"MCC 1.05"_s, u"MAC 0.9"_s, u"CUR 12"_s});
         row("doubled", "{MCC:1}{MCC:1.5}\n{sn=B1}{sn=B2}",
             {u"MCC 1"_s, u"MCC 1.5"_s, u"sn B1"_s, u"sn B2"_s});
         row("out of range", "{MCC:-1,CUR:1e9}", {u"MCC -1"_s, u"CUR 1e+09"_s});
