@@ -2,12 +2,12 @@
 
 #include "contactsheet/samplewindow.h"
 
+#include "framework/common/widgets/applicationlook.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFontDatabase>
 #include <QPainter>
 #include <QPixmap>
 
@@ -83,17 +83,11 @@ int main(int argc, char **argv)
     const QString folder = app.arguments().value(1, u"."_s);
     if (!QDir().mkpath(folder))
         return 1;
-    for (const QString &face : {u"Regular"_s, u"Italic"_s, u"Bold"_s, u"BoldItalic"_s})
-        QFontDatabase::addApplicationFont(
-            u":/resources/fonts/OpenSans/OpenSans_SemiCondensed-%1.ttf"_s.arg(face));
-    QFont font(u"Open Sans SemiCondensed"_s);
-    font.setPixelSize(15);
-    QApplication::setFont(font);
+    ApplicationLook::installFonts();
+    ApplicationLook::installThemes();
     auto *styler = StyleHelper::Instance();
-    styler->addStyleFile(u":/themes/nt.theme.css"_s);
     bool saved = true;
     for (const QString &theme : {u"light"_s, u"dark"_s}) {
-        styler->addThemeFile(u":/themes/%1.css"_s.arg(theme), theme);
         styler->selectTheme(theme);
         saved &= iconSheet().save(u"%1/icons-%2.png"_s.arg(folder, theme));
         SampleWindow window;

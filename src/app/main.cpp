@@ -1,44 +1,21 @@
 #include "app/servicetools.h"
 
-#include "ui/mainwindow.h"
-
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
 #include "framework/common/widgets/apphelperdialogs.h"
+#include "framework/common/widgets/applicationlook.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/settings/languagecontext.h"
 #include "framework/settings/startlanguage.h"
 #include "ui/mainwindow.h"
 
 #include <QApplication>
-#include <QFont>
-#include <QFontDatabase>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int RunningAppsAttempts = 10;
-constexpr int FontPixels = 15;
-
-void installFonts()
-{
-    for (const char *style : {"Regular", "Italic", "Bold", "BoldItalic"})
-        QFontDatabase::addApplicationFont(
-            u":/resources/fonts/OpenSans/OpenSans_SemiCondensed-%1.ttf"_s.arg(QLatin1StringView(style)));
-    QFont font = QApplication::font();
-    font.setFamily(u"Open Sans SemiCondensed"_s);
-    font.setPixelSize(FontPixels);
-    QApplication::setFont(font);
-}
-
-void installThemes()
-{
-    StyleHelper::Styler *styler = StyleHelper::Instance();
-    styler->addStyleFile(u":/themes/nt.theme.css"_s);
-    styler->addThemeFile(u":/themes/light.css"_s, u"light"_s);
-    styler->addThemeFile(u":/themes/dark.css"_s, u"dark"_s);
-}
 
 } // namespace
 
@@ -49,8 +26,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(SPINBAR_VERSION));
     if (AppHelper::checkAndCloseIfAppsRunning({u"Cagelight"_s, u"Spinbar"_s}, RunningAppsAttempts))
         return 0;
-    installFonts();
-    installThemes();
+    ApplicationLook::installFonts();
+    ApplicationLook::installThemes();
     LanguageContext::setSearchesApplicationFolder(false);
     // Before the model: the settings translate their captions when they are built.
     LanguageContext::setLanguage(startLanguage(SpinbarModel::settingsFilePath()));
