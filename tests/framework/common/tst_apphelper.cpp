@@ -1,6 +1,8 @@
 #include "framework/common/apphelper.h"
 #include "framework/common/processlist.h"
 
+#include "files.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -21,12 +23,6 @@ constexpr int Attempts = 10;
 // A predecessor may take this long to end while the check still lets its successor start.
 constexpr int RestartTimeMs = 2'000;
 
-QString copyOfThisProgram(const QTemporaryDir &folder, const QString &name)
-{
-    const QString path = folder.filePath(name);
-    return QFile::copy(QCoreApplication::applicationFilePath(), path) ? path : QString();
-}
-
 } // namespace
 
 class TestAppHelper : public QObject
@@ -34,25 +30,18 @@ class TestAppHelper : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ownProcessIsSkippedOnce_data()
-    {
-        QTest::addColumn<QStringList>("running");
-        QTest::addColumn<QStringList>("found");
-        const auto row = [](const char *tag, const QStringList &running, const QStringList &found) {
-            QTest::newRow(tag) << running << found;
-        };
-        row("alone", {u"explorer.exe"_s, u"Spinbar.exe"_s}, {});
-        row("two copies besides", {u"spinbar.exe"_s, u"SPINBAR.EXE"_s, u"Spinbar.exe"_s},
-            {u"SPINBAR.EXE"_s, u"Spinbar.exe"_s});
-        row("debug build", {u"Spinbar.exe"_s, u"Spinbard.exe"_s}, {u"Spinbard.exe"_s});
-        row("other name", {u"Cagelight.exe"_s, u"Cagelight2.exe"_s, u"Spinbar"_s}, {u"Cagelight.exe"_s});
-    }
-
     void ownProcessIsSkippedOnce()
     {
-        QFETCH(QStringList, running);
-        const QStringList names{u"Cagelight"_s, u"Spinbar"_s, u"spinbar.exe"_s};
-        QTEST(AppHelper::selectRunningApps(names, running, u"Spinbar.exe"_s), "found");
+        const auto found = [](const QStringList &running) {
+            return AppHelper::selectRunningApps({u"Cagelight"_s, u"Spinbar"_s, u"spinbar.exe"_s}, running,
+                                                u"Spinbar.exe"_s);
+        };
+        QCOMPARE(found({u"explorer.exe"_s, u"Spinbar.exe"_s}), QStringList());
+        QCOMPARE(found({u"spinbar.exe"_s, u"SPINBAR.EXE"_s, u"Spinbar.exe"_s}),
+                 QStringList({u"SPINBAR.EXE"_s, u"Spinbar.exe"_s}));
+        QCOMPARE(found({u"Spinbar.exe"_s, u"Spinbard.exe"_s}), QStringList(u"Spinbard.exe"_s)); // debug build
+        QCOMPARE(found({u"Cagelight.exe"_s, u"Cagelight2.exe"_s, u"Spinbar"_s}),
+                 QStringList(u"Cagelight.exe"_s));
     }
 
     void taskListGivesImageNames()
@@ -70,8 +59,7 @@ private Q_SLOTS:
         const auto process = [&](const QString &id, const QString &link, const QByteArray &arguments) {
             QVERIFY(QDir(proc.path()).mkpath(id));
             QVERIFY(link.isEmpty() || QFile::link(link, proc.filePath(id + "/exe"_L1)));
-            QFile file(proc.filePath(id + "/cmdline"_L1));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(arguments) == arguments.size());
+            QVERIFY(writeFile(proc.filePath(id + "/cmdline"_L1), arguments));
         };
         process(u"1"_s, u"/opt/my app/Spinbar"_s, "other");
         process(u"20"_s, u"/usr/bin/Spinbar (deleted)"_s, "");
@@ -97,22 +85,18 @@ private Q_SLOTS:
     void predecessorIsGivenTimeToEnd()
     {
         const QTemporaryDir folder;
+        const QString program = folder.filePath(u"spinbar-old"_s);
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
         QProcess predecessor;
-        predecessor.start(copyOfThisProgram(folder, u"spinbar-old"_s), {QLatin1StringView(SleepArgument)});
+        predecessor.start(program, {QLatin1StringView(SleepArgument)});
         QVERIFY(predecessor.waitForStarted());
         const QStringList names{u"Spinbar-Old"_s};
         QCOMPARE(AppHelper::waitForAppsToEnd(names, 0), QStringList{u"spinbar-old.exe"_s});
+        QCOMPARE(AppHelper::runningAppsMessage({u"a.exe"_s, u"b.exe"_s}),
+                 u"Cannot start because these apps are already running:\na.exe\nb.exe"_s);
         QTimer::singleShot(RestartTimeMs, &predecessor, &QProcess::kill);
         QVERIFY(AppHelper::waitForAppsToEnd(names, Attempts).isEmpty());
         QTRY_COMPARE(predecessor.state(), QProcess::NotRunning);
-    }
-
-    void messageNamesWhatRuns()
-    {
-        QCOMPARE(AppHelper::runningAppsMessage({u"a.exe"_s}),
-                 u"Cannot start because this app is already running:\na.exe"_s);
-        QCOMPARE(AppHelper::runningAppsMessage({u"a.exe"_s, u"b.exe"_s}),
-                 u"Cannot start because these apps are already running:\na.exe\nb.exe"_s);
     }
 
     void restartQuitsAndStartsTheProgramAgain()
@@ -124,21 +108,16 @@ private Q_SLOTS:
         QTRY_VERIFY(QFile::exists(mark));
     }
 
-    void versionIsCutToItsNumbers_data()
-    {
-        QTest::addColumn<QString>("withPatch");
-        QTest::addColumn<QString>("withoutPatch");
-        QTest::newRow("1.2.3.4") << u"1.2.3"_s << u"1.2"_s;
-        QTest::newRow("1.2.3") << u"1.2.3"_s << u"1.2"_s;
-        QTest::newRow("1.2") << u"1.2"_s << u"1.2"_s;
-        QTest::newRow("1.2.3.4.5") << u"1.2.3.4.5"_s << u"1.2.3.4.5"_s;
-    }
-
     void versionIsCutToItsNumbers()
     {
-        QCoreApplication::setApplicationVersion(QString::fromLatin1(QTest::currentDataTag()));
-        QTEST(AppHelper::appVersion(true), "withPatch");
-        QTEST(AppHelper::appVersion(false), "withoutPatch");
+        const auto version = [](const QString &full, bool withPatch) {
+            QCoreApplication::setApplicationVersion(full);
+            return AppHelper::appVersion(withPatch);
+        };
+        QCOMPARE(version(u"1.2.3.4"_s, true), u"1.2.3"_s);
+        QCOMPARE(version(u"1.2.3.4"_s, false), u"1.2"_s);
+        QCOMPARE(version(u"1.2"_s, true), u"1.2"_s);
+        QCOMPARE(version(u"1.2.3.4.5"_s, false), u"1.2.3.4.5"_s);
     }
 
     void filterListsEndings()

@@ -2,6 +2,8 @@
 #include "framework/common/globalconsolewriter.h"
 #include "framework/common/nlogger.h"
 
+#include "files.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -10,9 +12,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 
-#include <memory>
+#include <thread>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -20,12 +21,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QDateTime Noon(QDate(2026, 11, 23), QTime(12, 0, 1, 123));
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -88,36 +83,23 @@ private slots:
                  QStringList({u"é"_s, u"c"_s, u"-7"_s, u"1000000"_s, u"0.5"_s, u"1.23457e+06"_s, u"end"_s}));
     }
 
-    void averageLagsOneSampleBehind_data()
-    {
-        QTest::addColumn<int>("limit");
-        QTest::addColumn<QList<double>>("samples");
-        QTest::addColumn<double>("mean");
-        QTest::newRow("first") << 5 << QList<double>{10} << 10.0;
-        QTest::newRow("second replaces") << 5 << QList<double>{10, 20} << 20.0;
-        QTest::newRow("third") << 5 << QList<double>{10, 20, 30} << 25.0;
-        // From there on each sample weighs a third.
-        QTest::newRow("limited") << 3 << QList<double>{0, 0, 0, 9, 9} << 5.0;
-        QTest::newRow("limit 0") << 0 << QList<double>{10, 20, 40} << 40.0;
-        QTest::newRow("negative limit") << -3 << QList<double>{10, 20, 40} << 40.0;
-    }
-
     void averageLagsOneSampleBehind()
     {
-        QFETCH(int, limit);
-        QFETCH(QList<double>, samples);
         const QSignalSpy values(GlobalConsole::Instance(), &GlobalConsole::updatedAverage);
         const QSignalSpy names(GlobalConsole::Instance(), &GlobalConsole::newAverageName);
-        double mean = 0;
-        for (const double sample : samples)
-            mean = GlobalConsole::countAverage(u"a"_s, sample, limit);
-        QTEST(mean, "mean");
-        QCOMPARE(GlobalConsole::getAverage(u"a"_s), mean);
-        QCOMPARE(values.constLast().at(1).toDouble(), mean);
-        QCOMPARE(values.size(), samples.size());
-        QCOMPARE(names.size(), 1);
-        QCOMPARE(GlobalConsole::getAverage(u"b"_s), 0.0);
-        QCOMPARE(GlobalConsole::getAverageNames(), QStringList(u"a"_s));
+        const auto mean = [](const QString &name, const QList<double> &samples, int limit) {
+            for (const double sample : samples)
+                GlobalConsole::countAverage(name, sample, limit);
+            return GlobalConsole::getAverage(name);
+        };
+        QCOMPARE(mean(u"a"_s, {10, 20}, 5), 20.0);
+        QCOMPARE(mean(u"a"_s, {30}, 5), 25.0);
+        QCOMPARE(mean(u"b"_s, {0, 0, 0, 9, 9}, 3), 5.0); // from the third on each weighs a third
+        QCOMPARE(mean(u"c"_s, {10, 20, 40}, 0), 40.0);
+        QCOMPARE(values.constLast().at(1).toDouble(), 40.0);
+        QCOMPARE(values.size(), 11);
+        QCOMPARE(names.size(), 3);
+        QCOMPARE(GlobalConsole::getAverageNames(), QStringList({u"a"_s, u"b"_s, u"c"_s}));
     }
 
     void statusesTellTheirNamesOnce()
@@ -177,17 +159,16 @@ private slots:
     {
         constexpr int Threads = 4;
         constexpr int Lines = 2'500;
-        std::vector<std::unique_ptr<QThread>> threads;
+        std::vector<std::thread> threads;
         for (int number = 0; number < Threads; ++number) {
-            threads.emplace_back(QThread::create([number] {
+            threads.emplace_back([number] {
                 for (int line = 0; line < Lines; ++line)
                     NLogger::LogToFile(QString::number(number), QString(200, u'ж') + QString::number(line),
                                        u"x"_s, true);
-            }));
-            threads.back()->start();
+            });
         }
-        for (const auto &thread : threads)
-            QVERIFY(thread->wait());
+        for (std::thread &thread : threads)
+            thread.join();
         const QStringList lines = QString::fromUtf8(contents(m_log)).split(u"\r\n"_s, Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), Threads * Lines);
         QList<int> next(Threads, 0);
@@ -201,12 +182,9 @@ private slots:
     void standardFileIsNamedByProgramAndMoment()
     {
         QCoreApplication::setApplicationName(u"Spinbar"_s);
+        static const QRegularExpression form(u"^/.+/Spinbar_[\\d.]{10}-[\\d.]{8}\\.log$"_s);
         const QString path = NLogger::standardLogFilePath();
-        QVERIFY2(
-            QRegularExpression(u"^/.+/Spinbar_\\d{4}\\.\\d\\d\\.\\d\\d-\\d\\d\\.\\d\\d\\.\\d\\d\\.log$"_s)
-                .match(path)
-                .hasMatch(),
-            qPrintable(path));
+        QVERIFY2(form.match(path).hasMatch(), qPrintable(path));
     }
 
 private:

@@ -1,7 +1,9 @@
 #include "framework/common/xlsxhelper.h"
 
+#include "files.h"
 #include "framework/common/hindrance.h"
 #include "framework/common/workbookreader.h"
+#include "rows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -9,6 +11,7 @@
 #include <QTextCodec>
 
 #include <cmath>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace WorkbookReader;
@@ -18,45 +21,12 @@ namespace {
 
 const QByteArray Mark = "\xEF\xBB\xBF";
 
-enum class Trouble { None, EndedAtOnce, EndedAtTheEnd, FullDisk, FullTemporaryDisk, ReadOnlyFile };
-
 /// Two sheets of many equal cells.
 bool write(const QString &path, const WorkStep &step)
 {
     const QList<Sheet> sheets(2, {u"n"_s, XLSXHelper::Rows(10000, QList<QVariant>(5, 1))});
     return path.endsWith(".csv"_L1) ? XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s, step)
                                     : XLSXHelper::dataToXLSX(sheets, path, step);
-}
-
-bool writeInTrouble(const QString &path, Trouble trouble)
-{
-    int steps = 0;
-    switch (trouble) {
-    case Trouble::None:
-        return write(path, [&steps] { return ++steps > 0; }) && steps >= 2;
-    case Trouble::EndedAtOnce:
-        return write(path, [] { return false; });
-    case Trouble::EndedAtTheEnd:
-        return write(path, [&steps] { return ++steps < 2; });
-#ifdef Q_OS_LINUX
-    case Trouble::FullDisk: {
-        const FileSizeLimit limit(2000);
-        return write(path, {});
-    }
-    case Trouble::FullTemporaryDisk: {
-        // The workbook itself has room, but not what it is packed from.
-        const FileSizeLimit limit(100'000);
-        return write(path, {});
-    }
-    case Trouble::ReadOnlyFile: {
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
-        const OrdinaryUser user;
-        return write(path, {});
-    }
-#endif
-    default:
-        return false;
-    }
 }
 
 } // namespace
@@ -66,28 +36,19 @@ class TestXlsxHelper : public QObject
     Q_OBJECT
 
 private slots:
-    void csv_data()
-    {
-        QTest::addColumn<QList<Sheet>>("sheets");
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("no sheet") << QList<Sheet>() << QByteArray();
-        QTest::newRow("no rows") << QList<Sheet>{{u"n"_s, {}}} << QByteArray("n\r\n\r\n\r\n");
-        QTest::newRow("cells") << QList<Sheet>{{u"n"_s, {{u"a"_s, u"b"_s}, {}, {u"Ё;\"x"_s}}}}
-                               << QByteArray("n\r\na;b;\r\n\r\nЁ;\"x;\r\n\r\n\r\n");
-        QTest::newRow("numbers") << QList<Sheet>{{u"n"_s, {{0.1, 5.0, 100000.0, 7, std::nan("")}}}}
-                                 << QByteArray("n\r\n0.1;5;1e+05;7;0;\r\n\r\n\r\n");
-        QTest::newRow("two sheets") << QList<Sheet>{{u"n"_s, {{1}}}, {u"m"_s, {}}}
-                                    << QByteArray("n\r\n1;\r\n\r\n\r\nm\r\n\r\n\r\n");
-    }
-
     void csv()
     {
-        QFETCH(QList<Sheet>, sheets);
-        QFETCH(QByteArray, text);
         const QTemporaryDir folder;
-        const QString path = folder.filePath(u"Таблица 1.csv"_s);
-        QVERIFY(XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s));
-        QCOMPARE(content(path), Mark + text);
+        const auto written = [path = folder.filePath(u"Таблица 1.csv"_s)](const QList<Sheet> &sheets) {
+            return XLSXHelper::dataToCSV(sheets, path, u";"_s, u"\r\n"_s) ? content(path) : QByteArray();
+        };
+        QCOMPARE(written({}), Mark);
+        QCOMPARE(written({{u"n"_s, {}}}), Mark + "n\r\n\r\n\r\n");
+        QCOMPARE(written({{u"n"_s, {{u"a"_s, u"b"_s}, {}, {u"Ё;\"x"_s}}}}),
+                 Mark + "n\r\na;b;\r\n\r\nЁ;\"x;\r\n\r\n\r\n");
+        QCOMPARE(written({{u"n"_s, {{0.1, 5.0, 100000.0, 7, std::nan("")}}}}),
+                 Mark + "n\r\n0.1;5;1e+05;7;0;\r\n\r\n\r\n");
+        QCOMPARE(written({{u"n"_s, {{1}}}, {u"m"_s, {}}}), Mark + "n\r\n1;\r\n\r\n\r\nm\r\n\r\n\r\n");
         QCOMPARE(QTextCodec::codecForLocale()->name(), "UTF-8");
     }
 
@@ -121,12 +82,8 @@ private slots:
 
     void sheetNames_data()
     {
-        QTest::addColumn<QStringList>("wanted");
-        QTest::addColumn<QStringList>("names");
+        const auto row = columns<QStringList, QStringList>("wanted", "names");
         const QString thirty(30, u'я');
-        const auto row = [](const char *name, const QStringList &wanted, const QStringList &names) {
-            QTest::newRow(name) << wanted << names;
-        };
         row("plain", {u"2024.03.09-07.05.01.042"_s}, {u"2024.03.09-07.05.01.042"_s});
         row("forbidden signs", {u"[a]:*?/\\b\n"_s}, {u"_a______b_"_s});
         row("nothing left", {u"a"_s, u""_s, u" ' "_s}, {u"a"_s, u"Sheet2"_s, u"Sheet3"_s});
@@ -171,39 +128,44 @@ private slots:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {u"kept.xlsx"_s});
     }
 
-    void whatIsNotWrittenToItsEndLeavesTheOldFile_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Trouble>("trouble");
-        const QString csv = u"kept.csv"_s;
-        const QString workbook = u"kept.xlsx"_s;
-        QTest::newRow("CSV, none") << csv << Trouble::None;
-        QTest::newRow("CSV, ended at once") << csv << Trouble::EndedAtOnce;
-        QTest::newRow("CSV, ended at the end") << csv << Trouble::EndedAtTheEnd;
-        QTest::newRow("workbook, none") << workbook << Trouble::None;
-        QTest::newRow("workbook, ended at once") << workbook << Trouble::EndedAtOnce;
-        QTest::newRow("workbook, ended at the end") << workbook << Trouble::EndedAtTheEnd;
-#ifdef Q_OS_LINUX
-        QTest::newRow("CSV, full disk") << csv << Trouble::FullDisk;
-        QTest::newRow("CSV, read-only file") << csv << Trouble::ReadOnlyFile;
-        QTest::newRow("workbook, full disk") << workbook << Trouble::FullDisk;
-        QTest::newRow("workbook, full temporary disk") << workbook << Trouble::FullTemporaryDisk;
-        QTest::newRow("workbook, read-only file") << workbook << Trouble::ReadOnlyFile;
-#endif
-    }
-
     void whatIsNotWrittenToItsEndLeavesTheOldFile()
     {
-        QFETCH(QString, name);
-        QFETCH(Trouble, trouble);
-        const QTemporaryDir folder;
-        QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
-        QFile old(folder.filePath(name));
-        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-        old.close();
-        QCOMPARE(writeInTrouble(old.fileName(), trouble), trouble == Trouble::None);
-        QCOMPARE(content(old.fileName()) == "old", trouble != Trouble::None);
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {name});
+        const auto check = [](const char *trouble, const std::function<bool(const QString &)> &writeTo) {
+            const bool isNone = qstrcmp(trouble, "none") == 0;
+            for (const QString &name : {u"kept.csv"_s, u"kept.xlsx"_s}) {
+                const QTemporaryDir folder;
+                QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+                const QString path = folder.filePath(name);
+                QVERIFY(writeFile(path, "old"));
+                QVERIFY2(writeTo(path) == isNone, trouble);
+                QVERIFY2((content(path) == "old") != isNone, trouble);
+                QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), {name});
+            }
+        };
+        int steps = 0;
+        check("none", [&](const QString &path) { return write(path, [&] { return ++steps > 0; }); });
+        QVERIFY(steps >= 4);
+        check("ended at once", [](const QString &path) { return write(path, [] { return false; }); });
+        check("ended at the end", [](const QString &path) {
+            int done = 0;
+            return write(path, [&done] { return ++done < 2; });
+        });
+#ifdef Q_OS_LINUX
+        check("full disk", [](const QString &path) {
+            const FileSizeLimit limit(2000);
+            return write(path, {});
+        });
+        check("full temporary disk", [](const QString &path) {
+            // The workbook itself has room, but not what it is packed from.
+            const FileSizeLimit limit(100'000);
+            return write(path, {});
+        });
+        check("read-only file", [](const QString &path) {
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
+            const OrdinaryUser user;
+            return write(path, {});
+        });
+#endif
     }
 };
 

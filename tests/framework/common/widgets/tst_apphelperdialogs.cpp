@@ -1,5 +1,7 @@
 #include "framework/common/widgets/apphelperdialogs.h"
 
+#include "files.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -60,42 +62,28 @@ public Q_SLOTS:
     void catchUrl(const QUrl &url) { m_opened = url; }
 
 private Q_SLOTS:
-    void answersAreTheButtonPressed_data()
-    {
-        QTest::addColumn<bool>("withCancel");
-        QTest::addColumn<QStringList>("captions");
-        QTest::addColumn<QString>("press");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("buttons");
-        const auto row = [](const char *tag, bool withCancel, const QStringList &captions,
-                            const QString &press, int result, const QString &buttons) {
-            QTest::newRow(tag) << withCancel << captions << press << result << buttons;
-        };
-        row("yes", false, {}, u"Yes"_s, 1, u"No Yes*"_s);
-        row("no", false, {}, u"No"_s, 0, u"No Yes*"_s);
-        row("escape", false, {}, {}, 0, u"No Yes*"_s);
-        row("own captions", false, {u"Keep"_s, u"Drop"_s}, u"Keep"_s, 1, u"Drop Keep*"_s);
-        row("ok", true, {}, u"Ok"_s, 1, u"Cancel No Ok*"_s);
-        row("second", true, {}, u"No"_s, 0, u"Cancel No Ok*"_s);
-        row("third", true, {u"A"_s, u"B"_s, u"C"_s}, u"C"_s, -1, u"A* B C"_s);
-        row("escape of three", true, {u"A"_s, u"B"_s}, {}, -1, u"A* B Cancel"_s);
-    }
-
     void answersAreTheButtonPressed()
     {
-        QFETCH(bool, withCancel);
-        QFETCH(QStringList, captions);
-        QFETCH(QString, press);
-        Answer answer;
-        answer.press = press;
-        QTimer::singleShot(0, qApp, [&] { answer.give(); });
-        const int result =
-            withCancel ? AppHelper::confirmDialogWithCancel(u"T"_s, u"Q?"_s, QMessageBox::Question, captions)
-                       : int(AppHelper::confirmDialog(u"T"_s, u"Q?"_s, QMessageBox::Question, captions));
-        QTEST(result, "result");
-        QTEST(answer.buttons.join(' '_L1), "buttons");
-        QCOMPARE(answer.text, u"Q?"_s);
-        QVERIFY(answer.onTop);
+        const auto check = [](bool withCancel, const QStringList &captions, const QString &press, int result,
+                              const QString &buttons) {
+            Answer answer;
+            answer.press = press;
+            QTimer::singleShot(0, qApp, [&] { answer.give(); });
+            const auto icon = QMessageBox::Question;
+            QCOMPARE(withCancel ? AppHelper::confirmDialogWithCancel(u"T"_s, u"Q?"_s, icon, captions)
+                                : int(AppHelper::confirmDialog(u"T"_s, u"Q?"_s, icon, captions)),
+                     result);
+            QCOMPARE(answer.buttons.join(' '_L1), buttons);
+            QCOMPARE(answer.text, u"Q?"_s);
+            QVERIFY(answer.onTop);
+        };
+        check(false, {}, u"Yes"_s, 1, u"No Yes*"_s);
+        check(false, {}, u"No"_s, 0, u"No Yes*"_s);
+        check(false, {}, {}, 0, u"No Yes*"_s);
+        check(true, {}, u"Ok"_s, 1, u"Cancel No Ok*"_s);
+        check(true, {}, u"No"_s, 0, u"Cancel No Ok*"_s);
+        check(true, {u"A"_s, u"B"_s, u"C"_s}, u"C"_s, -1, u"A* B C"_s);
+        check(true, {u"A"_s, u"B"_s}, {}, -1, u"A* B Cancel"_s);
     }
 
     void runningPredecessorStopsTheStart()
@@ -116,24 +104,17 @@ private Q_SLOTS:
         QVERIFY(!AppHelper::checkAndCloseIfAppsRunning({u"spinbar-still-here"_s}, 0));
     }
 
-    void folderIsOpenedWithoutAFileManager_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("opened");
-        QTest::newRow("file") << u"sub dir/a b.txt"_s << u"sub dir"_s;
-        QTest::newRow("folder") << u"sub dir"_s << u"sub dir"_s;
-    }
-
     void folderIsOpenedWithoutAFileManager()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, opened);
         const QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(u"sub dir"_s));
-        QVERIFY(QFile(folder.filePath(u"sub dir/a b.txt"_s)).open(QIODevice::WriteOnly));
+        const QString inside = folder.filePath(u"sub dir"_s);
+        QVERIFY(QDir().mkpath(inside) && writeFile(inside + "/a b.txt"_L1));
         QDesktopServices::setUrlHandler(u"file"_s, this, "catchUrl");
-        AppHelper::showInFolder(folder.filePath(name));
-        QTRY_COMPARE(m_opened.toLocalFile(), folder.filePath(opened));
+        for (const QString &path : {inside, inside + "/a b.txt"_L1}) {
+            m_opened.clear();
+            AppHelper::showInFolder(path);
+            QTRY_COMPARE(m_opened.toLocalFile(), inside);
+        }
         QDesktopServices::unsetUrlHandler(u"file"_s);
     }
 

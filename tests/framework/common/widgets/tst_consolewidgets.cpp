@@ -88,44 +88,35 @@ private slots:
         constexpr int LimitMs = 30'000;
         QElapsedTimer timer;
         timer.start();
-        for (int i = 0; i < Entries; ++i)
-            write(u"entry %1"_s.arg(i));
         GlobalConsoleWidget widget;
         widget.show();
         for (int i = 0; i < Entries; ++i)
             write(u"entry %1"_s.arg(i));
-        QCoreApplication::processEvents();
         for (int i = 0; i < 50; ++i) {
-            write(u"<span>late</span>"_s);
             QCoreApplication::processEvents();
+            write(u"<span>late</span>"_s);
         }
         QTRY_COMPARE(widget.toPlainText().count("late"_L1), 50);
         QVERIFY2(timer.elapsed() < LimitMs, qPrintable(QString::number(timer.elapsed())));
-        QCOMPARE(widget.toPlainText().count("entry"_L1), 2 * Entries);
-    }
-
-    void coloursAreReadableInBothThemes_data()
-    {
-        QTest::addColumn<QString>("theme");
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("light") << u"light"_s << u"#115599"_s << u"color: #036"_s;
-        QTest::newRow("dark") << u"dark"_s << u"#66aaee"_s << u"color: #99ccff"_s;
+        QCOMPARE(widget.toPlainText().count("entry"_L1), Entries);
     }
 
     void coloursAreReadableInBothThemes()
     {
-        QFETCH(QString, theme);
-        StyleHelper::Instance()->addThemeFile(u":/themes/%1.css"_s.arg(theme), theme);
-        StyleHelper::Instance()->selectTheme(theme);
         GlobalConsole::setStatus(u"a"_s, u"b"_s);
         write(u"<span style='color: #159'>x</span>"_s);
-        const GlobalConsoleWidget entries;
-        const GlobalConsoleStatusWidget statuses(GlobalConsoleStatusWidget::Status, nullptr);
-        QTextCursor cursor(entries.document());
-        cursor.setPosition(int(entries.toPlainText().indexOf(u'x')) + 1);
-        QTEST(cursor.charFormat().foreground().color().name(), "entry");
-        QTEST(statuses.findChild<QLabel *>()->styleSheet(), "name");
+        const auto check = [](const QString &theme, const QString &entry, const QString &name) {
+            StyleHelper::Instance()->addThemeFile(u":/themes/%1.css"_s.arg(theme), theme);
+            StyleHelper::Instance()->selectTheme(theme);
+            const GlobalConsoleWidget entries;
+            const GlobalConsoleStatusWidget statuses(GlobalConsoleStatusWidget::Status, nullptr);
+            QTextCursor cursor(entries.document());
+            cursor.setPosition(int(entries.toPlainText().indexOf(u'x')) + 1);
+            QCOMPARE(cursor.charFormat().foreground().color().name(), entry);
+            QCOMPARE(statuses.findChild<QLabel *>()->styleSheet(), name);
+        };
+        check(u"light"_s, u"#115599"_s, u"color: #036"_s);
+        check(u"dark"_s, u"#66aaee"_s, u"color: #99ccff"_s);
     }
 
     void entriesLoadNothing()
@@ -159,18 +150,14 @@ private slots:
         QTRY_COMPARE(rows(statuses), QStringList({u"link=up"_s, u"port=<b>COM7"_s}));
         GlobalConsole::clearStatus(u"link"_s);
         QTRY_COMPARE(rows(statuses), QStringList(u"port=<b>COM7"_s));
-    }
 
-    void closingIsTold()
-    {
         GlobalConsoleTotalWidget total;
-        GlobalConsoleWidget entries;
-        const QSignalSpy totalClosing(&total, &GlobalConsoleTotalWidget::closing);
-        const QSignalSpy entriesClosing(&entries, &GlobalConsoleWidget::closing);
-        total.show();
+        const QSignalSpy closing(&total, &GlobalConsoleTotalWidget::closing);
         QCOMPARE(total.findChildren<GlobalConsoleStatusWidget *>().size(), 2);
+        GlobalConsoleWidget entries;
+        const QSignalSpy entriesClosing(&entries, &GlobalConsoleWidget::closing);
         QVERIFY(total.close() && entries.close());
-        QCOMPARE(totalClosing.size() + entriesClosing.size(), 2);
+        QCOMPARE(closing.size() + entriesClosing.size(), 2);
     }
 };
 

@@ -1,10 +1,13 @@
 #include "framework/common/apphelper.h"
 #include "framework/common/widgets/mediahelper.h"
+#include "framework/common/widgets/svgtext.h"
 #include "framework/common/widgets/uihelper.h"
 
+#include "rows.h"
+
 #include <QFontDatabase>
-#include <QPixmap>
 #include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -13,10 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The share of pixels that show anything, and whether any of those is near black.
+/// The share of pixels that show anything, the densest of them, and whether any is near black.
 struct Ink
 {
     double share = 0;
+    int maxAlpha = 0;
     bool hasBlack = false;
 };
 
@@ -28,6 +32,7 @@ Ink ink(const QImage &image)
         for (int x = 0; x < image.width(); ++x) {
             const QColor color = image.pixelColor(x, y);
             drawn += color.alpha() > 0;
+            result.maxAlpha = std::max(result.maxAlpha, color.alpha());
             result.hasBlack |= color.alpha() > 200 && color.lightness() < 60;
         }
     }
@@ -35,15 +40,12 @@ Ink ink(const QImage &image)
     return result;
 }
 
-int maxAlpha(const QPixmap &pixmap)
+const QString Root = u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"8\" height=\"4\">"_s;
+const QString Square = u"<path d=\"M0 0H8V4H0Z\"/>"_s;
+
+QString nested(int depth)
 {
-    const QImage image = pixmap.toImage();
-    int greatest = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            greatest = std::max(greatest, image.pixelColor(x, y).alpha());
-    }
-    return greatest;
+    return Root + u"<g>"_s.repeated(depth) + Square + u"</g>"_s.repeated(depth) + u"</svg>"_s;
 }
 
 } // namespace
@@ -53,69 +55,124 @@ class TestIcons : public QObject
     Q_OBJECT
 
 private slots:
-    void iconsAreDrawnInBlackAndTurnWhite_data()
+    void recolouringEditsTheOpeningTag()
     {
-        QTest::addColumn<QString>("name");
-        const auto names = {"check",   "chevron-down",  "chevron-left", "chevron-right", "chevron-up",
-                            "copy",    "delete",        "edit",         "edit_rename",   "excel",
-                            "folder",  "folder_search", "information",  "play",          "plus",
-                            "refresh", "reload",        "stop"};
-        for (const char *name : names)
-            QTest::newRow(name) << QString::fromLatin1(name);
+        const auto red = [](const QString &text, const QString &replace = {}) {
+            return SvgText::recolored(text, u"#F00"_s, replace);
+        };
+        QCOMPARE(red(u"<svg fill=\"none\" w=\"1\"><p/></svg>"_s), u"<svg fill=\"#F00\" w=\"1\"><p/></svg>"_s);
+        QCOMPARE(red(u"<svg w=\"1\"><p/></svg>"_s), u"<svg w=\"1\" fill=\"#F00\"><p/></svg>"_s);
+        // A later fill is none of the root's; a colour is replaced everywhere, by case.
+        QCOMPARE(red(u"<svg><p fill=\"#000\"/></svg>"_s), u"<svg fill=\"#F00\"><p fill=\"#000\"/></svg>"_s);
+        QCOMPARE(red(u"<svg><p fill=\"#abc\" stroke=\"#ABC\"/></svg>"_s, u"#abc"_s),
+                 u"<svg fill=\"#F00\"><p fill=\"#F00\" stroke=\"#ABC\"/></svg>"_s);
+        QCOMPARE(red(u"<svg fill=\"#0><p"_s), u"<svg fill=\"#0 fill=\"#F00\"><p"_s);
+        for (const QString &kept : {u"<svg fill=\"#000\""_s, u"text"_s})
+            QCOMPARE(red(kept), kept);
+    }
+
+    void theOlderRuleNeedsTheExactAttribute()
+    {
+        const QString plain = u"<svg fill=\"none\"/>"_s;
+        QCOMPARE(SvgText::withRootFill(plain, u"red"_s), u"<svg fill=\"red\"/>"_s);
+        QCOMPARE(SvgText::withRootFill(plain, {}), plain);
+        for (const QString &kept :
+             {u"<svg w=\"1\" fill=\"none\"/>"_s, u"svg fill=\"none\"/>"_s, u"<svg fill="_s})
+            QCOMPARE(SvgText::withRootFill(kept, u"red"_s), kept);
+    }
+
+    void drawingsKeepTheirSizeUnlessOneIsGiven()
+    {
+        const QString svg = SvgText::recolored(nested(1), u"#00F"_s, {});
+        QCOMPARE(SvgText::rendered(svg).size(), QSize(8, 4));
+        const QImage large = SvgText::rendered(svg, {16, 16});
+        QCOMPARE(large.size(), QSize(16, 16));
+        QCOMPARE(large.pixelColor(8, 8), QColor(Qt::blue));
+    }
+
+    void hostileDrawingsAreNotDrawn_data()
+    {
+        const auto row = columns<QString>("text");
+        row("empty", {});
+        row("no markup", "plain");
+        row("null byte", Root + QChar(u'\0') + Square + u"</svg>"_s);
+        row("truncated", nested(1).chopped(8));
+        row("too deep", nested(100'000));
+        row("too many", Root + Square.repeated(50'000) + u"</svg>"_s);
+        row("too long", Root + QString(5 * 1024 * 1024, u' ') + Square + u"</svg>"_s);
+        row("refers to itself",
+            Root
+                + u"<g id=\"a\"><use href=\"#a\" xlink:href=\"#a\" xmlns:xlink=\"http://www.w3.org/1999/xlink\"/></g></svg>"_s);
+        QString entities = u"<!DOCTYPE svg [<!ENTITY e0 \"lol\">"_s;
+        for (int i = 1; i < 20; ++i)
+            entities += u"<!ENTITY e%1 \"%2\">"_s.arg(i).arg(u"&e%1;"_s.arg(i - 1).repeated(10));
+        row("entity bomb", entities + u"]>"_s + Root + u"<text>&e19;</text></svg>"_s);
+    }
+
+    void hostileDrawingsAreNotDrawn()
+    {
+        QFETCH(QString, text);
+        QVERIFY(SvgText::rendered(text).isNull());
+    }
+
+    void hugeSizesAreBroughtDown()
+    {
+        const QString svg =
+            u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"2000000\" height=\"1000000\"/>"_s;
+        const QImage image = SvgText::rendered(svg);
+        QVERIFY(image.isNull() || (image.width() <= 4096 && image.height() <= 4096));
+    }
+
+    void filesThatAreNoDrawingsReadAsEmpty()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"huge.svg"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(200 * 1024 * 1024));
+        QCOMPARE(SvgText::read(file.fileName()), QString());
+        QCOMPARE(SvgText::read(folder.filePath(u"missing.svg"_s)), QString());
+        QCOMPARE(SvgText::read(folder.path()), QString());
     }
 
     void iconsAreDrawnInBlackAndTurnWhite()
     {
-        QFETCH(QString, name);
-        const QString path = u":/icons/%1.svg"_s.arg(name);
-        QSvgRenderer renderer(path);
-        QVERIFY(renderer.isValid());
-        QCOMPARE(renderer.defaultSize(), QSize(24, 24));
-        const Ink black = ink(MediaHelper::icon(path).pixmap(24, 24).toImage());
-        QVERIFY2(black.share > 0.05 && black.share < 0.6, qPrintable(QString::number(black.share)));
-        QVERIFY(black.hasBlack);
-        const Ink white = ink(MediaHelper::svgColored(path, u"#FFF"_s, u"#000"_s));
-        QVERIFY(white.share > 0.05 && !white.hasBlack);
-        QVERIFY(!ink(UIHelper::PixmapFromSvg(path, u"#FFF"_s).toImage()).hasBlack);
-        const QIcon coloured = MediaHelper::iconColored(path, u"#FFF"_s, {});
-        QVERIFY(maxAlpha(coloured.pixmap(24, 24, QIcon::Disabled)) < 0.5 * maxAlpha(coloured.pixmap(24, 24)));
-        QCOMPARE(AppHelper::findInResources(name + u".svg"_s), "qrc"_L1 + path);
-    }
-
-    void picturesAreThereInTwiceTheShownSize_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QSize>("size");
-        const QString images = u":/resources/images/"_s;
-        QTest::newRow("rat") << images + u"rat.png"_s << QSize(240, 240);
-        QTest::newRow("mouse") << images + u"mouse.png"_s << QSize(240, 240);
-        QTest::newRow("no rodent") << images + u"no-rodent.png"_s << QSize(240, 240);
-        QTest::newRow("balloon") << images + u"balloon.png"_s << QSize(20, 28);
-        for (const char *name : {"power_green", "power_off_red", "speed_on", "bolt", "warning"})
-            QTest::newRow(name) << images + QLatin1StringView(name) + u".svg"_s << QSize(24, 24);
-        for (const char *name : {"record", "check-dark", "chevron-up-dark", "chevron-down-dark",
-                                 "chevron-left-dark", "chevron-right-dark"})
-            QTest::newRow(name) << u":/icons/%1.svg"_s.arg(QLatin1StringView(name)) << QSize(24, 24);
+        for (const QString &name : u"check chevron-down chevron-left chevron-right chevron-up copy delete "
+                                   u"edit edit_rename excel folder "
+                                   "folder_search information play plus refresh reload stop"_s.split(u' ')) {
+            const QString path = u":/icons/%1.svg"_s.arg(name);
+            QCOMPARE(QSvgRenderer(path).defaultSize(), QSize(24, 24));
+            const Ink black = ink(MediaHelper::icon(path).pixmap(24, 24).toImage());
+            QVERIFY2(black.share > 0.05 && black.share < 0.6 && black.hasBlack, qPrintable(name));
+            const Ink white = ink(MediaHelper::svgColored(path, u"#FFF"_s, u"#000"_s));
+            QVERIFY2(white.share > 0.05 && !white.hasBlack, qPrintable(name));
+            QVERIFY(!ink(UIHelper::PixmapFromSvg(path, u"#FFF"_s).toImage()).hasBlack);
+            QCOMPARE(AppHelper::findInResources(name + u".svg"_s), "qrc"_L1 + path);
+        }
+        const QIcon stop = MediaHelper::iconColored(u":/icons/stop.svg"_s, u"#FFF"_s, {});
+        const auto densest = [&](QIcon::Mode mode) {
+            return ink(stop.pixmap(24, 24, mode).toImage()).maxAlpha;
+        };
+        QVERIFY(densest(QIcon::Disabled) < 0.5 * densest(QIcon::Normal));
     }
 
     void picturesAreThereInTwiceTheShownSize()
     {
-        QFETCH(QString, path);
-        QFETCH(QSize, size);
-        const QImage image =
-            path.endsWith(".svg"_L1) ? UIHelper::PixmapFromSvg(path).toImage() : QImage(path);
-        QCOMPARE(image.size(), size);
-        QVERIFY(ink(image).share > 0.05);
-        // None of these is recoloured for the dark theme, so none may be black.
-        if (path.contains("/icons/"_L1))
-            QVERIFY(!ink(image).hasBlack);
-    }
-
-    void theDrumTurns()
-    {
-        QSvgRenderer drum(u":/resources/images/speed_on.svg"_s);
-        QVERIFY(drum.animated());
-        QVERIFY(drum.framesPerSecond() > 0);
+        const auto check = [](const QString &path, QSize size) {
+            const QImage image =
+                path.endsWith(".svg"_L1) ? UIHelper::PixmapFromSvg(path).toImage() : QImage(path);
+            QVERIFY2(image.size() == size && ink(image).share > 0.05, qPrintable(path));
+            // None of these is recoloured for the dark theme, so none may be black.
+            QVERIFY2(!path.contains("/icons/"_L1) || !ink(image).hasBlack, qPrintable(path));
+        };
+        for (const QString &name : {u"rat"_s, u"mouse"_s, u"no-rodent"_s})
+            check(u":/resources/images/%1.png"_s.arg(name), {240, 240});
+        check(u":/resources/images/balloon.png"_s, {20, 28});
+        for (const QString &name : u"power_green power_off_red speed_on bolt warning"_s.split(u' '))
+            check(u":/resources/images/%1.svg"_s.arg(name), {24, 24});
+        for (const QString &name : {u"record"_s, u"check-dark"_s, u"chevron-up-dark"_s,
+                                    u"chevron-down-dark"_s, u"chevron-left-dark"_s, u"chevron-right-dark"_s})
+            check(u":/icons/%1.svg"_s.arg(name), {24, 24});
+        QVERIFY(QSvgRenderer(u":/resources/images/speed_on.svg"_s).animated()); // the drum turns
     }
 
     void colouredIconsAreKeptByColourAndPath()
