@@ -2,7 +2,8 @@
 
 #include "framework/settings/ntsettings.h"
 
-#include <QFile>
+#include "files.h"
+
 #include <QPoint>
 #include <QSize>
 #include <QTest>
@@ -11,12 +12,7 @@
 namespace SettingsWalk {
 
 using namespace Qt::StringLiterals;
-
-inline QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using ::contents;
 
 /// A legal value other than the present one; invalid for a type that this walk does not know.
 inline QVariant otherValue(AbstractMetaDescription &property)

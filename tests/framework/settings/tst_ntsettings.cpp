@@ -1,6 +1,9 @@
 #include "samplesettings.h"
 #include "settingswalk.h"
 
+#include "files.h"
+#include "rows.h"
+
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSignalSpy>
@@ -57,15 +60,10 @@ private Q_SLOTS:
         m_path = m_folder->filePath(u"deep/er/Settings.xml"_s);
     }
 
-    void everyPropertyKeepsItsDeclaration()
-    {
-        SampleSettings settings;
-        SettingsWalk::checkDefaultsAndLimits(settings);
-    }
-
-    void everyPropertySurvivesTheFile()
+    void everyPropertyKeepsItsDeclarationAndSurvivesTheFile()
     {
         SampleSettings source(m_path, false);
+        SettingsWalk::checkDefaultsAndLimits(source);
         SampleSettings target;
         SettingsWalk::checkRoundTrip(source, target);
     }
@@ -78,10 +76,10 @@ private Q_SLOTS:
         QCOMPARE(reloaded.size(), 1);
         QVERIFY(!QFileInfo::exists(m_path) && QFileInfo::exists(m_folder->filePath(u"deep/er"_s)));
         settings.setDelay(7.5);
-        QCOMPARE(SettingsWalk::contents(m_path), FirstFile);
+        QCOMPARE(contents(m_path), FirstFile);
         settings.setTitle(u"longer"_s.repeated(1000));
         settings.setTitle({});
-        QCOMPARE(SettingsWalk::contents(m_path), FirstFile);
+        QCOMPARE(contents(m_path), FirstFile);
     }
 
     void setterSignalsInOrderAndOnlyOnChange()
@@ -92,9 +90,8 @@ private Q_SLOTS:
                 [&](int value) { log << u"changedCount %1"_s.arg(value); });
         connect(&settings, &NTSettings::propertyChanged, this,
                 [&](const QString &name) { log << name + (QFileInfo::exists(m_path) ? " late"_L1 : ""_L1); });
-        connect(&settings, &NTSettings::saved, this, [&] {
-            log << (SettingsWalk::contents(m_path).contains("<Count>10</Count>") ? u"saved"_s : u"?"_s);
-        });
+        connect(&settings, &NTSettings::saved, this,
+                [&] { log << (contents(m_path).contains("<Count>10</Count>") ? u"saved"_s : u"?"_s); });
         settings.setCount(1000);
         settings.setCount(2000);
         settings.setRatio(std::numeric_limits<double>::quiet_NaN());
@@ -113,12 +110,8 @@ private Q_SLOTS:
         connect(&reader, &NTSettings::propertyChanged, this, [&](const QString &name) { log << name; });
         connect(&reader, &NTSettings::reloaded, this, [&] { log << u"reloaded"_s; });
         connect(&reader, &NTSettings::saved, this, [&] { log << u"saved"_s; });
-        QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner));
-        const QDateTime before = QFileInfo(m_path).lastModified();
         QVERIFY(reader.reload());
         QCOMPARE(log, (QStringList{u"Count"_s, u"reloaded"_s}));
-        QCOMPARE(QFileInfo(m_path).lastModified(), before);
-        log.clear();
         connect(&reader, &SampleSettings::changedTitle, this, [&] { reader.reload(); });
         writer.setTitle(u"t"_s);
         writer.setRatio(0.5);
@@ -130,29 +123,18 @@ private Q_SLOTS:
         QCOMPARE(reader.getValue(u"Fleeting"_s), QVariant(0));
     }
 
-    void emptyPathSavesNothing()
-    {
-        SampleSettings settings;
-        QSignalSpy saved(&settings, &NTSettings::saved);
-        QSignalSpy moved(&settings, &NTSettings::filePathChanged);
-        QVERIFY(!settings.reload());
-        settings.setFilepath({});
-        settings.save();
-        settings.setCount(3);
-        QCOMPARE(saved.size(), 2);
-        QCOMPARE(moved.size(), 1);
-    }
-
     void fileThatCannotBeWrittenIsSilent()
     {
-        const QString folder = m_folder->path();
-        SampleSettings settings(folder);
+        SampleSettings settings(m_folder->path());
         QSignalSpy saved(&settings, &NTSettings::saved);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
         settings.setCount(3);
         QCOMPARE(saved.size(), 1);
         QVERIFY(settings.reload());
-        QCOMPARE(settings.getCount(), 3);
+        settings.setFilepath({}); // and nothing is tried without a path
+        QVERIFY(!settings.reload());
+        settings.setCount(4);
+        QCOMPARE(saved.size(), 2);
     }
 
 #ifdef Q_OS_UNIX
@@ -170,40 +152,34 @@ private Q_SLOTS:
 
     void badFilesAreReadAsFarAsTheyGo_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("title");
         const QByteArray unknown = QByteArray("<U><V a='1'>x</V></U>").repeated(UnknownElements);
-        const auto row = [](const char *tag, const QByteArray &bytes, int count, const QString &title = {}) {
-            QTest::newRow(tag) << bytes << count << title;
-        };
-        row("empty", "", 2);
-        row("truncated in an element", "<S><Count>4</Count><Title>abc", 4);
-        row("truncated in a number", "<S><Count>4", 2);
-        row("null byte", QByteArray("<S><Count>4</Count>\0<Title>a</Title></S>", 41), 4);
-        row("unknown elements", "<S>" + unknown + "<Count>4</Count>" + unknown + "</S>", 4);
-        row("deep", QByteArray("<U>").repeated(UnknownElements) + "<Count>4</Count>", 4);
-        row("expanding entities", nestedEntities(), 4);
-        row("byte order mark", "\xEF\xBB\xBF<?xml version=\"1.0\"?><S><Count>4</Count></S>", 4);
-        row("another class's root", "<SpeedScript><Count>4</Count><Title>a</Title></SpeedScript>", 4, u"a"_s);
-        row("child of an unknown element", "<S><U><Count>4</Count></U></S>", 4);
-        row("root of a property's name", "<Count>4</Count>", 4);
-        row("child inside a value", "<S><Count>4</Count><Title>a<b/></Title><Count>5</Count></S>", 4);
-        row("too large and not a number", "<S><Count>99</Count><Count>x</Count><Delay>nan</Delay></S>", 10);
+        const auto row = columns<QByteArray, int, QString>("bytes", "count", "title");
+        row("empty", "", 2, {});
+        row("truncated in an element", "<S><Count>4</Count><Title>abc", 4, {});
+        row("truncated in a number", "<S><Count>4", 2, {});
+        row("null byte", QByteArray("<S><Count>4</Count>\0<Title>a</Title></S>", 41), 4, {});
+        row("unknown elements", "<S>" + unknown + "<Count>4</Count>" + unknown + "</S>", 4, {});
+        row("deep", QByteArray("<U>").repeated(UnknownElements) + "<Count>4</Count>", 4, {});
+        row("expanding entities", nestedEntities(), 4, {});
+        row("byte order mark", "\xEF\xBB\xBF<?xml version=\"1.0\"?><S><Count>4</Count></S>", 4, {});
+        row("another class's root", "<SpeedScript><Count>4</Count><Title>a</Title></SpeedScript>", 4, "a");
+        row("child of an unknown element", "<S><U><Count>4</Count></U></S>", 4, {});
+        row("root of a property's name", "<Count>4</Count>", 4, {});
+        row("child inside a value", "<S><Count>4</Count><Title>a<b/></Title><Count>5</Count></S>", 4, {});
+        row("too large and not a number", "<S><Count>99</Count><Count>x</Count><Delay>nan</Delay></S>", 10,
+            {});
         row("far too large", "<S><Count>4</Count><Count>99999999999999999999</Count><Delay>1e999</Delay></S>",
-            4);
-        row("unknown enumerator", "<S><Drive>Sideways</Drive><Drive>7</Drive><Count>4</Count></S>", 4);
-        row("invalid encoding", "<S><Count>4</Count><Title>\xff\xfe</Title></S>", 4, u"\ufffd\ufffd"_s);
-        row("not editable", "<S><Fleeting>1</Fleeting><Count>4</Count></S>", 4);
+            4, {});
+        row("unknown enumerator", "<S><Drive>Sideways</Drive><Drive>7</Drive><Count>4</Count></S>", 4, {});
+        row("invalid encoding", "<S><Count>4</Count><Title>\xff\xfe</Title></S>", 4, "\ufffd\ufffd");
+        row("not editable", "<S><Fleeting>1</Fleeting><Count>4</Count></S>", 4, {});
     }
 
     void badFilesAreReadAsFarAsTheyGo()
     {
         QFETCH(QByteArray, bytes);
         SampleSettings settings(m_path);
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
+        QVERIFY(writeFile(m_path, bytes));
         QElapsedTimer timer;
         timer.start();
         QVERIFY(settings.reload());
@@ -223,7 +199,7 @@ private Q_SLOTS:
     {
         SampleSettings settings(m_path, true, NTSettings::JSON);
         settings.setTitle(u"\u044f\""_s);
-        QCOMPARE(SettingsWalk::contents(m_path),
+        QCOMPARE(contents(m_path),
                  QByteArray("{\"Active\":true,\"Blob\":null,\"Count\":2,\"Delay\":5,\"Drive\":\"Fast\","
                             "\"Extent\":null,\"Octet\":\"\\u0007\",\"Place\":null,\"Ratio\":0.2,"
                             "\"Spot\":null,\"Title\":\"\u044f\\\"\"}"));
@@ -232,26 +208,18 @@ private Q_SLOTS:
         QCOMPARE(next.getTitle(), settings.getTitle());
     }
 
-    void jsonTextIsCheckedStepByStep_data()
-    {
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<int>("count");
-        QTest::newRow("") << false << 2;
-        QTest::newRow("{") << false << 2;
-        QTest::newRow("[{\"Count\":4}]") << false << 2;
-        QTest::newRow("{}") << false << 2;
-        QTest::newRow("{\"Count\":4,\"Drive\":\"?\",\"Foreign\":[[]]}") << true << 4;
-        QTest::newRow("{\"Count\":null}") << true << 2;
-        QTest::newRow("{\"Count\":1e6,\"Drive\":7}") << true << 10;
-        QTest::newRow("{\"Count\":{\"a\":1}}") << true << 2;
-    }
-
     void jsonTextIsCheckedStepByStep()
     {
-        QFETCH(bool, ok);
         SampleSettings settings;
-        QCOMPARE(settings.loadFromJson(QString::fromLatin1(QTest::currentDataTag())), ok);
-        QTEST(settings.getCount(), "count");
+        for (const QString &refused : {u""_s, u"{"_s, u"[{\"Count\":4}]"_s, u"{}"_s})
+            QVERIFY2(!settings.loadFromJson(refused), qPrintable(refused));
+        for (const QString &idle : {u"{\"Count\":null}"_s, u"{\"Count\":{\"a\":1}}"_s})
+            QVERIFY2(settings.loadFromJson(idle), qPrintable(idle));
+        QCOMPARE(settings.getCount(), 2);
+        QVERIFY(settings.loadFromJson(u"{\"Count\":4,\"Drive\":\"?\",\"Foreign\":[[]]}"_s));
+        QCOMPARE(settings.getCount(), 4);
+        QVERIFY(settings.loadFromJson(u"{\"Count\":1e6,\"Drive\":7}"_s));
+        QCOMPARE(settings.getCount(), 10);
         QCOMPARE(settings.getDrive(), SampleSettings::Mode::Fast);
     }
 
@@ -280,7 +248,6 @@ private Q_SLOTS:
         const QString text = SampleSettings::writeComponentsToString({&first, &second});
         QVERIFY(text.startsWith(
             "<?xml version=\"1.0\"?>\n<Component>\n    <SampleSettings>\n        <Drive>"_L1));
-        QVERIFY(text.contains("<Place></Place>"_L1));
         SampleSettings copy;
         QXmlStreamReader reader(text);
         reader.readNextStartElement();
@@ -295,11 +262,11 @@ private Q_SLOTS:
     void listItemsAreToggledTrimmed()
     {
         QStringList list{u"a"_s, u"b"_s, u"a"_s};
-        QVERIFY(!NTSettings::toogleItemInStringList(list, u"  "_s, true));
-        QVERIFY(!NTSettings::toogleItemInStringList(list, u" b "_s, true));
+        for (const QString &idle : {u"  "_s, u" b "_s})
+            QVERIFY(!NTSettings::toogleItemInStringList(list, idle, true));
+        QVERIFY(!NTSettings::toogleItemInStringList(list, u"d"_s, false));
         QVERIFY(NTSettings::toogleItemInStringList(list, u" a "_s, false));
         QVERIFY(NTSettings::toogleItemInStringList(list, u" c"_s, true));
-        QVERIFY(!NTSettings::toogleItemInStringList(list, u"d"_s, false));
         QCOMPARE(list, (QStringList{u"b"_s, u"a"_s, u"c"_s}));
     }
 

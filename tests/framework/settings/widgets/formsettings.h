@@ -5,7 +5,6 @@
 #include <QColor>
 #include <QDate>
 #include <QPoint>
-#include <QSize>
 
 /// A settings class with a property for every editor of a form.
 class FormSettings : public NTSettings
@@ -67,6 +66,7 @@ private:
     Q_CLASSINFO("DayNoDefault", "true")
     NT_PROPERTY(int, Choice, 1)
     Q_CLASSINFO("ChoiceSpecialType", "EnumStringList")
+    Q_CLASSINFO("ChoiceDisplayName", "Variant")
     NT_PROPERTY(int, Hidden, 0)
     Q_CLASSINFO("HiddenNotVisible", "true")
 
