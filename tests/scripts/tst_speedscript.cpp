@@ -1,81 +1,150 @@
 #include "scripts/scriptexpansion.h"
+#include "scripts/scriptplayer.h"
 #include "scripts/speedscript.h"
 
-#include <QFile>
+#include "files.h"
+#include "rows.h"
+
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
-
+/// What the player orders, one word each: speeds as numbers, "stop", "cycle 1/3", "ended".
 class TestSpeedScript : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void pointsAreReadLineByLine_data()
+    void init()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<ScriptPoints>("points");
-        const ScriptPoints two{{0, 0}, {60, 25.5}};
-        QTest::newRow("as written") << u"0.000:0.00\r\n60.000:25.50"_s << two;
-        QTest::newRow("plain line ends, blanks, empty lines") << u"\n 0 : 0 \n\n\r\n60:25.5\n"_s << two;
-        QTest::newRow("empty parts are dropped") << u":0::0:\n60:25.5"_s << two;
-        QTest::newRow("bad lines") << u"0:0\n1\n1:2:3\nx:1\n1:y\n1,5:2\n:\n60:25.5"_s << two;
-        QTest::newRow("not finite") << u"0:0\nnan:1\n1:inf\n-inf:1\n1e999:1\n60:25.5"_s << two;
-        QTest::newRow("order, equals and signs stay")
-            << u"5:1\n1:-2\n1:3"_s << ScriptPoints{{5, 1}, {1, -2}, {1, 3}};
-        QTest::newRow("empty") << QString() << ScriptPoints();
+        m_now = 1'700'000'000'000;
+        m_log.clear();
+        m_player = std::make_unique<ScriptPlayer>(nullptr, [this] { return m_now; });
+        connect(m_player.get(), &ScriptPlayer::speedDue, this,
+                [this](double v) { m_log += QString::number(v); });
+        connect(m_player.get(), &ScriptPlayer::stopDue, this, [this] { m_log += u"stop"_s; });
+        connect(m_player.get(), &ScriptPlayer::cycleChanged, this,
+                [this] { m_log += u"cycle "_s + m_player->cycleText(); });
+        connect(m_player.get(), &ScriptPlayer::ended, this, [this] { m_log += u"ended"_s; });
+    }
+
+    void firstCommandIsTheSecondEntryAfterOneStep()
+    {
+        start(ramp(), true, 1);
+        QCOMPARE(m_player->table().size(), 50);
+        advance(150);
+        QCOMPARE(m_log, QStringList{u"cycle 1"_s});
+        advance(50);
+        QCOMPARE(m_log.last(), QString::number(m_player->table().at(1)));
+        // Each entry once, and a late tick skips instead of catching up.
+        advance(150);
+        m_now += 600;
+        m_player->tick();
+        QCOMPARE(m_log, QStringList({u"cycle 1"_s, u"1.2"_s, u"3"_s}));
+    }
+
+    void cyclesAreCountedToTheLimit()
+    {
+        start(ramp(), false, 3);
+        advance(9950);
+        QCOMPARE(m_log.last(), u"30"_s);
+        advance(50);
+        QCOMPARE(m_log.last(), u"cycle 2/3"_s);
+        advance(200);
+        QCOMPARE(m_log.last(), u"1.2"_s); // again the second entry
+        QSignalSpy cursor(m_player.get(), &ScriptPlayer::cursorMoved);
+        advance(19800);
+        QCOMPARE(m_log.mid(m_log.size() - 3), QStringList({u"cycle "_s, u"stop"_s, u"ended"_s}));
+        QCOMPARE(cursor.last().at(0).toDouble(), -1.0);
+        QVERIFY(!m_player->isRunning());
+        advance(1000);
+        QCOMPARE(m_log.last(), u"ended"_s);
+    }
+
+    void endsWithAnotherChoiceAndWithNothingToPlay()
+    {
+        start(ramp(), true, 1);
+        advance(10000 * 5);
+        QCOMPARE(m_player->cycleText(), u"6"_s); // endless, so without a total
+        m_player->setScript(nullptr);
+        QCOMPARE(m_log.last(), u"stop"_s);
+        QVERIFY(!m_player->isRunning() && m_player->table().isEmpty());
+
+        start({{0, 5}}, true, 1);
+        advance(150);
+        QVERIFY(m_player->isRunning());
+        advance(50);
+        QCOMPARE(m_log, QStringList({u"cycle 1"_s, u"cycle "_s, u"stop"_s, u"ended"_s}));
+    }
+
+    void clockThatJumpsMovesTheIndex()
+    {
+        start(ramp(), false, 2);
+        advance(1000);
+        m_now -= 600;
+        m_player->tick();
+        QCOMPARE(m_log.last(), QString::number(m_player->table().at(2)));
+        m_now += 600;
+        QSignalSpy cursor(m_player.get(), &ScriptPlayer::cursorMoved);
+        const QStringList before = m_log;
+        m_now -= 3'600'000;
+        advance(500);
+        QCOMPARE(m_log, before);
+        QCOMPARE(cursor.last().at(0).toDouble(), 0.0);
+        m_now += 3'600'000;
+        advance(500);
+        QCOMPARE(m_log.last(), QString::number(m_player->table().at(10)));
+        m_now += 86'400'000;
+        m_player->tick();
+        QCOMPARE(m_log.last(), u"cycle 2/2"_s);
+        QCOMPARE(cursor.last().at(0).toDouble(), 10.0);
+    }
+
+    void timerDrivesARun()
+    {
+        m_player = std::make_unique<ScriptPlayer>();
+        QSignalSpy ended(m_player.get(), &ScriptPlayer::ended);
+        start({}, true, 1);
+        QVERIFY(ended.wait());
     }
 
     void pointsAreReadLineByLine()
     {
-        QFETCH(QString, text);
-        QTEST(parseScriptPoints(text), "points");
-    }
-
-    void pointsAreWrittenWithFixedDecimals()
-    {
-        QCOMPARE(scriptPointsText({{0, 0}, {60, 25.5}}), u"0.000:0.00\r\n60.000:25.50"_s);
+        const ScriptPoints two{{0, 0}, {60, 25.5}};
+        QCOMPARE(scriptPointsText(two), u"0.000:0.00\r\n60.000:25.50"_s);
         QCOMPARE(scriptPointsText({{1.0004, 29.999}}), u"1.000:30.00"_s);
-        QCOMPARE(scriptPointsText({}), QString());
+        for (const QString &text : {u"0.000:0.00\r\n60.000:25.50"_s, u"\n 0 : 0 \n\n\r\n60:25.5\n"_s,
+                                    u":0::0:\n60:25.5"_s, u"0:0\n1\n1:2:3\nx:1\n1:y\n1,5:2\n:\n60:25.5"_s,
+                                    u"0:0\nnan:1\n1:inf\n-inf:1\n1e999:1\n60:25.5"_s})
+            QCOMPARE(parseScriptPoints(text), two);
+        // Order, equals and signs stay.
+        QCOMPARE(parseScriptPoints(u"5:1\n1:-2\n1:3"_s), (ScriptPoints{{5, 1}, {1, -2}, {1, 3}}));
+        QCOMPARE(parseScriptPoints({}), ScriptPoints());
     }
 
     void rampsAndLevelsAreSampledOnTheStep_data()
     {
-        QTest::addColumn<ScriptPoints>("points");
-        QTest::addColumn<int>("duration");
-        QTest::addColumn<QList<double>>("table");
         using Table = QList<double>;
-        QTest::newRow("no point") << ScriptPoints() << 10 << Table();
-        QTest::newRow("one point") << ScriptPoints{{0, 5}} << 10 << Table();
-        QTest::newRow("ramp") << ScriptPoints{{0, 0}, {1, 5}} << 1 << Table{1, 2, 3, 4, 5};
-        QTest::newRow("level before and behind")
-            << ScriptPoints{{0.4, 2}, {0.8, 4}} << 2 << Table{2, 2, 3, 4, 4, 4, 4, 4, 4};
-        QTest::newRow("point behind the duration")
-            << ScriptPoints{{0, 0}, {2, 10}} << 1 << Table{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+        const auto row = columns<ScriptPoints, int, Table>("points", "duration", "table");
+        row("one point", {{0, 5}}, 10, {});
+        row("ramp", {{0, 0}, {1, 5}}, 1, {1, 2, 3, 4, 5});
+        row("level before and behind", {{0.4, 2}, {0.8, 4}}, 2, {2, 2, 3, 4, 4, 4, 4, 4, 4});
+        row("point behind the duration", {{0, 0}, {2, 10}}, 1, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
         // 2.5 steps count as 3, and the next ramp starts from its own point.
-        QTest::newRow("part of a step")
-            << ScriptPoints{{0, 0}, {0.5, 5}, {0.9, 7}} << 1 << Table{2, 4, 5, 6, 7};
-        QTest::newRow("equal times jump")
-            << ScriptPoints{{0, 0}, {0.4, 2}, {0.4, 9}} << 1 << Table{1, 9, 9, 9};
-        QTest::newRow("going back contributes nothing")
-            << ScriptPoints{{0.4, 1}, {0, 3}, {0.4, 5}} << 1 << Table{1, 3, 4, 5};
-        QTest::newRow("negative time and speed")
-            << ScriptPoints{{-0.4, -4}, {0.2, 2}} << 1 << Table{-2, 0, 2, 2};
+        row("part of a step", {{0, 0}, {0.5, 5}, {0.9, 7}}, 1, {2, 4, 5, 6, 7});
+        row("equal times jump", {{0, 0}, {0.4, 2}, {0.4, 9}}, 1, {1, 9, 9, 9});
+        row("going back contributes nothing", {{0.4, 1}, {0, 3}, {0.4, 5}}, 1, {1, 3, 4, 5});
+        row("negative time and speed", {{-0.4, -4}, {0.2, 2}}, 1, {-2, 0, 2, 2});
+        Table longest;
+        for (int k = 1; k <= 50'000; ++k)
+            longest.append(30.0 * k / 50'000);
+        row("longest", {{0, 0}, {10'000, 30}}, 10'000, longest);
     }
 
     void rampsAndLevelsAreSampledOnTheStep()
@@ -89,34 +158,20 @@ private slots:
             QVERIFY2(std::abs(actual[k] - table[k]) < 1e-9, qPrintable(QString::number(k)));
     }
 
-    void longestScriptFollowsItsLine()
+    void damagedPointsStayWithinBounds()
     {
-        const QList<double> table = expandScript({{0, 0}, {10000, 30}}, 10000);
-        QCOMPARE(table.size(), 50000);
-        for (qsizetype k = 0; k < table.size(); ++k)
-            QVERIFY(std::abs(table[k] - 30.0 * double(k + 1) / 50000) < 1e-6);
-    }
-
-    void damagedPointsStayWithinBounds_data()
-    {
-        QTest::addColumn<ScriptPoints>("points");
         const double huge = 1e308;
-        QTest::newRow("huge time") << ScriptPoints{{0, 1}, {huge, 2}};
-        QTest::newRow("huge lead-in") << ScriptPoints{{huge, 1}, {huge, 2}};
-        QTest::newRow("difference overflows") << ScriptPoints{{-huge, -huge}, {huge, huge}};
-        QTest::newRow("not finite") << ScriptPoints{{qQNaN(), 1}, {1, qQNaN()}, {2, qInf()}, {qInf(), 3}};
         ScriptPoints zigzag;
         for (int i = 0; i < 1'000'000; ++i)
             zigzag.append({i % 2 ? 1e9 : 0.0, double(i)});
-        QTest::newRow("a million points back and forth") << zigzag;
-    }
-
-    void damagedPointsStayWithinBounds()
-    {
-        QFETCH(ScriptPoints, points);
-        const QList<double> table = expandScript(points, 10);
-        QVERIFY(!table.isEmpty() && table.size() <= MaxScriptTableEntries);
-        QVERIFY(std::all_of(table.begin(), table.end(), [](double v) { return std::isfinite(v); }));
+        for (const ScriptPoints &points :
+             {ScriptPoints{{0, 1}, {huge, 2}}, ScriptPoints{{huge, 1}, {huge, 2}},
+              ScriptPoints{{-huge, -huge}, {huge, huge}},
+              ScriptPoints{{qQNaN(), 1}, {1, qQNaN()}, {2, qInf()}, {qInf(), 3}}, zigzag}) {
+            const QList<double> table = expandScript(points, 10);
+            QVERIFY(!table.isEmpty() && table.size() <= MaxScriptTableEntries);
+            QVERIFY(std::all_of(table.begin(), table.end(), [](double v) { return std::isfinite(v); }));
+        }
     }
 
     void fileHoldsThePropertiesInOrder()
@@ -131,7 +186,7 @@ private slots:
         script.storePoints();
         QCOMPARE(changed.size(), 1);
         QCOMPARE(saved.size(), 2);
-        QCOMPARE(fileBytes(path),
+        QCOMPARE(contents(path),
                  "<?xml version=\"1.0\"?>\n<SpeedScript>\n    <DurationSeconds>10</DurationSeconds>\n"
                  "    <Infinite>true</Infinite>\n    <Loops>5</Loops>\n"
                  "    <Points>0.000:0.00\r\n60.000:25.50</Points>\n</SpeedScript>\n"_ba);
@@ -147,11 +202,8 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"wild.xml"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<SpeedScript><DurationSeconds>99999</DurationSeconds><Infinite>false</Infinite>"
-                   "<Loops>0</Loops><Points>0:1</Points>");
-        file.close();
+        QVERIFY(writeFile(path, "<SpeedScript><DurationSeconds>99999</DurationSeconds>"
+                                "<Infinite>false</Infinite><Loops>0</Loops><Points>0:1</Points>"));
         SpeedScript script(path);
         QCOMPARE(script.cycleLimit(), -1);
         script.reload();
@@ -160,6 +212,32 @@ private slots:
         QCOMPARE(script.cycleLimit(), 1);
         QVERIFY(script.table().isEmpty());
     }
+
+private:
+    static ScriptPoints ramp() { return {{0, 0}, {10, 30}}; }
+
+    void start(const ScriptPoints &points, bool infinite, int loops)
+    {
+        SpeedScript script{QString()};
+        script.setPointList(points);
+        script.setInfinite(infinite);
+        script.setLoops(loops);
+        m_player->setScript(&script);
+        m_log.clear();
+        m_player->setRunning(true);
+    }
+
+    void advance(int ms)
+    {
+        for (int passed = 0; passed < ms; passed += 50) {
+            m_now += 50;
+            m_player->tick();
+        }
+    }
+
+    qint64 m_now = 0;
+    QStringList m_log;
+    std::unique_ptr<ScriptPlayer> m_player;
 };
 
 QTEST_GUILESS_MAIN(TestSpeedScript)

@@ -23,11 +23,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The button of this accessible name or text.
 QPushButton *button(const QWidget &widget, const QString &name)
 {
-    const QList<QPushButton *> buttons = widget.findChildren<QPushButton *>();
-    const auto found = std::ranges::find(buttons, name, &QWidget::accessibleName);
-    return found == buttons.end() ? nullptr : *found;
+    for (QPushButton *candidate : widget.findChildren<QPushButton *>()) {
+        if (candidate->accessibleName() == name || candidate->text() == name)
+            return candidate;
+    }
+    return nullptr;
 }
 
 /// Lets each step act on the dialog that is open when its turn comes.
@@ -65,41 +68,19 @@ private slots:
         m_ports.reset();
     }
 
-    void emptyFolderOffersNothing()
-    {
-        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
-        const auto *combo = runner.findChild<QComboBox *>();
-        QVERIFY(!combo->isEnabled());
-        QCOMPARE(combo->placeholderText(), u"Not selected"_s);
-        QVERIFY(!button(runner, u"Run script"_s)->isEnabled());
-        QVERIFY(!button(runner, u"Stop script"_s)->isEnabled());
-    }
-
-    void rememberedTitleIsSelected_data()
-    {
-        QTest::addColumn<QString>("remembered");
-        QTest::addColumn<QString>("selected");
-        QTest::newRow("other case") << u"BETA"_s << u"beta"_s;
-        QTest::newRow("gone") << u"delta"_s << u"alpha"_s;
-        QTest::newRow("none") << QString() << u"alpha"_s;
-    }
-
     void rememberedTitleIsSelected()
     {
-        QFETCH(QString, remembered);
+        QVERIFY(!button(SpeedScriptSelectAndRunWidget(*m_model, nullptr), u"Run script"_s)->isEnabled());
         addScript(u"alpha"_s);
         addScript(u"beta"_s);
-        m_model->settings()->setLastSpeedScript(remembered);
-        SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
-        QTEST(runner.findChild<QComboBox *>()->currentText(), "selected");
-        QTEST(m_model->settings()->getLastSpeedScript(), "selected");
-        QVERIFY(button(runner, u"Run script"_s)->isEnabled());
-    }
-
-    void vanishedFileLoadsNothing()
-    {
-        addScript(u"alpha"_s);
-        addScript(u"beta"_s);
+        for (const auto &[remembered, selected] :
+             {std::pair(u"BETA"_s, u"beta"_s), {u"delta"_s, u"alpha"_s}}) {
+            m_model->settings()->setLastSpeedScript(remembered);
+            SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
+            QCOMPARE(runner.findChild<QComboBox *>()->currentText(), selected);
+            QCOMPARE(m_model->settings()->getLastSpeedScript(), selected);
+            QVERIFY(button(runner, u"Run script"_s)->isEnabled());
+        }
         SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
         QVERIFY(QFile::remove(m_model->scriptsFolder() + u"beta.xml"_s));
         runner.findChild<QComboBox *>()->setCurrentIndex(1);
@@ -116,23 +97,18 @@ private slots:
         QPushButton *run = button(runner, u"Run script"_s);
         QPushButton *stop = button(runner, u"Stop script"_s);
         QVERIFY(run->isVisible() && !stop->isVisible());
-        m_line->take();
-        run->click();
-        QVERIFY(!run->isVisible() && stop->isVisible() && stop->isChecked());
-        QVERIFY(!labelWith(runner, u"Cycle 1/3"_s).isEmpty());
-        // 1.2 rad/s, the second entry of the table.
-        QVERIFY(m_line->waitFor("{rotate=0.191}"));
-        QVERIFY(!m_line->received.contains("{rotate=0.095}"));
-
-        stop->click();
-        QVERIFY(m_line->waitFor("{rotate=0.000}"));
-        QVERIFY(run->isVisible() && labelWith(runner, u"Cycle"_s).isEmpty());
-        run->click();
-        QVERIFY(stop->isChecked());
-        m_line->take();
-        stop->toggle(); // as a screen reader does
-        QVERIFY(m_line->waitFor("{rotate=0.000}"));
-        QVERIFY(run->isVisible());
+        for (const auto end : {&QPushButton::click, &QPushButton::toggle}) { // a screen reader toggles
+            m_line->take();
+            run->click();
+            QVERIFY(!run->isVisible() && stop->isVisible() && stop->isChecked());
+            QVERIFY(hasLabel(runner, u"Cycle 1/3"_s));
+            // 1.2 rad/s, the second entry of the table.
+            QVERIFY(m_line->waitFor("{rotate=0.191}"));
+            QVERIFY(!m_line->received.contains("{rotate=0.095}"));
+            (stop->*end)();
+            QVERIFY(m_line->waitFor("{rotate=0.000}"));
+            QVERIFY(run->isVisible() && !hasLabel(runner, u"Cycle"_s));
+        }
     }
 
     void selectionReloadAndDestructionStopTheRun()
@@ -171,7 +147,7 @@ private slots:
                }});
         button(runner, u"Script editor"_s)->click();
         runner.setRunning(true);
-        QVERIFY(!labelWith(runner, u"Cycle 1/7"_s).isEmpty());
+        QVERIFY(hasLabel(runner, u"Cycle 1/7"_s));
     }
 
     void refusedCloneGoesOnAsRenaming()
@@ -188,13 +164,11 @@ private slots:
                 dialog->accept();
             };
         };
-        answer(this, {give(u" beta "_s),
-                      [&seen](QWidget *widget) {
-                          auto *box = qobject_cast<QMessageBox *>(widget);
-                          seen += box->text();
-                          box->accept();
-                      },
-                      give(u"gamma"_s)});
+        const auto agree = [&seen](QWidget *widget) {
+            seen += qobject_cast<QMessageBox *>(widget)->text();
+            widget->findChild<QPushButton *>()->click();
+        };
+        answer(this, {give(u" beta "_s), agree, give(u"gamma"_s)});
         editor.findChild<QComboBox *>()->setCurrentText(u"alpha"_s);
         button(editor, u"Clone script"_s)->click();
         QCOMPARE(seen, QStringList({u"Enter new cloned script title"_s,
@@ -205,7 +179,7 @@ private slots:
         answer(this, {give(u"delta"_s)});
         button(editor, u"New script"_s)->click();
         QCOMPARE(editor.findChild<QComboBox *>()->currentText(), u"delta"_s);
-        answer(this, {[](QWidget *box) { box->findChild<QPushButton *>()->click(); }});
+        answer(this, {agree});
         button(editor, u"Remove script"_s)->click();
         QCOMPARE(editor.findChild<QComboBox *>()->count(), 2);
     }
@@ -214,7 +188,7 @@ private slots:
     {
         SpeedScriptEditor editor(*m_model, nullptr);
         editor.show();
-        auto *offer = findOffer(editor);
+        auto *offer = button(editor, u"Add sample scripts"_s);
         QVERIFY(offer && offer->isVisible());
         offer->click();
         QVERIFY(!offer->isVisible());
@@ -222,8 +196,9 @@ private slots:
         QVERIFY(combo->isEnabled() && combo->count() > 1);
         QVERIFY(button(editor, u"Rename script"_s)->isEnabled());
 
-        for (const QString &title : ScriptLibrary(m_model->scriptsFolder()).titles().mid(1))
-            QVERIFY(QFile::remove(ScriptLibrary(m_model->scriptsFolder()).filePath(title)));
+        const ScriptLibrary library(m_model->scriptsFolder());
+        for (const QString &title : library.titles().mid(1))
+            QCOMPARE(library.remove(title), ScriptLibrary::Outcome::Done);
         editor.reloadList({});
         answer(this, {[](QWidget *box) { box->findChild<QPushButton *>()->click(); }});
         button(editor, u"Remove script"_s)->click();
@@ -231,13 +206,6 @@ private slots:
     }
 
 private:
-    static QPushButton *findOffer(const SpeedScriptEditor &editor)
-    {
-        const QList<QPushButton *> buttons = editor.findChildren<QPushButton *>();
-        const auto found = std::ranges::find(buttons, u"Add sample scripts"_s, &QPushButton::text);
-        return found == buttons.end() ? nullptr : *found;
-    }
-
     void addScript(const QString &title)
     {
         SpeedScript script(ScriptLibrary(m_model->scriptsFolder()).filePath(title));
@@ -247,13 +215,10 @@ private:
         script.storePoints();
     }
 
-    static QString labelWith(const QWidget &widget, const QString &text)
+    static bool hasLabel(const QWidget &widget, const QString &text)
     {
-        for (const QLabel *label : widget.findChildren<QLabel *>()) {
-            if (label->text().startsWith(text))
-                return label->text();
-        }
-        return {};
+        return std::ranges::any_of(widget.findChildren<QLabel *>(),
+                                   [&](const QLabel *label) { return label->text().startsWith(text); });
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;

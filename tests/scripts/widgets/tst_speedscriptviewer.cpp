@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -42,8 +41,23 @@ private slots:
         QCOMPARE(stored(), (ScriptPoints{{0, 0}, {5, 15}, {10, 0}}));
     }
 
-    void droppedWithoutMovingStaysUnrounded()
+    void draggedMarkerIsRounded()
     {
+        const auto check = [this](bool shift, QPointF to, ScriptPoint expected) {
+            show({{5, 15}});
+            mouse(QEvent::MouseButtonPress, at(5, 15) + QPoint(3, -2));
+            mouse(QEvent::MouseMove, at(2, 2));
+            const QPoint end = at(to.x(), to.y());
+            mouse(QEvent::MouseMove, end, shift ? Qt::ShiftModifier : Qt::NoModifier);
+            mouse(QEvent::MouseButtonRelease, end);
+            QCOMPARE(stored(), ScriptPoints{expected});
+        };
+        check(false, {6.23, 20.31}, {6, 20});
+        check(true, {6.23, 20.26}, {6.2, 20.3});
+        check(false, {12, 35}, {10, 30}); // beyond the corner
+        check(true, {-1, -2}, {0, 0});
+
+        // Dropped without moving it stays as it is.
         show({{0, 0}, {10, 30}});
         drag(at(3.3, 9.9), at(3.3, 9.9), false);
         QCOMPARE(stored().size(), 3);
@@ -52,51 +66,20 @@ private slots:
         QVERIFY(std::abs(time - 3.3) <= 10.0 / m_viewer->plotRectangle().width());
     }
 
-    void draggedMarkerIsRounded_data()
+    void longAndDamagedScriptsCanBeEdited()
     {
-        QTest::addColumn<bool>("shift");
-        QTest::addColumn<QPointF>("to");
-        QTest::addColumn<ScriptPoint>("expected");
-        QTest::newRow("whole") << false << QPointF(6.23, 20.31) << ScriptPoint{6, 20};
-        QTest::newRow("tenths") << true << QPointF(6.23, 20.26) << ScriptPoint{6.2, 20.3};
-        QTest::newRow("beyond the corner") << false << QPointF(12, 35) << ScriptPoint{10, 30};
-        QTest::newRow("before the start") << true << QPointF(-1, -2) << ScriptPoint{0, 0};
+        show({{-1e300, 5}, {2, 10}, {3, 1e300}, {1e300, -1e300}});
+        drag(at(2, 10), at(1, 12));
+        QCOMPARE(stored().size(), 4);
+        QCOMPARE(stored().at(1), (ScriptPoint{1, 12}));
+
+        m_script->setDurationSeconds(10000);
+        show({{100, 15}});
+        drag(at(1, 15), at(10, 15)); // a hundred times as far
+        QCOMPARE(stored(), (ScriptPoints{{1000, 15}}));
     }
 
-    void draggedMarkerIsRounded()
-    {
-        QFETCH(bool, shift);
-        QFETCH(QPointF, to);
-        show({{5, 15}});
-        mouse(QEvent::MouseButtonPress, at(5, 15) + QPoint(3, -2));
-        mouse(QEvent::MouseMove, at(2, 2));
-        const QPoint end = at(to.x(), to.y());
-        mouse(QEvent::MouseMove, end, shift ? Qt::ShiftModifier : Qt::NoModifier);
-        mouse(QEvent::MouseButtonRelease, end);
-        QCOMPARE(stored().size(), 1);
-        QTEST(stored().first(), "expected");
-    }
-
-    void ofEqualTimesTheLaterInTheListStays_data()
-    {
-        QTest::addColumn<ScriptPoint>("from");
-        QTest::addColumn<double>("to");
-        QTest::addColumn<double>("speed");
-        QTest::newRow("first onto second") << ScriptPoint{2, 10} << 8.0 << 20.0;
-        QTest::newRow("second onto first") << ScriptPoint{8, 20} << 2.0 << 6.0;
-    }
-
-    void ofEqualTimesTheLaterInTheListStays()
-    {
-        QFETCH(ScriptPoint, from);
-        QFETCH(double, to);
-        QFETCH(double, speed);
-        show({{2, 10}, {8, 20}});
-        drag(at(from.timeSeconds, from.speed), at(to, 6));
-        QCOMPARE(stored(), (ScriptPoints{{to, speed}}));
-    }
-
-    void markerMayPassAnother()
+    void markerMayPassAnotherAndReplacesItAtItsTime()
     {
         show({{2, 10}, {8, 20}});
         mouse(QEvent::MouseButtonPress, at(2, 10));
@@ -105,6 +88,14 @@ private slots:
         mouse(QEvent::MouseMove, at(9, 6));
         mouse(QEvent::MouseButtonRelease, at(9, 6));
         QCOMPARE(stored(), (ScriptPoints{{8, 20}, {9, 6}}));
+
+        // Of equal times the later in the list stays.
+        show({{2, 10}, {8, 20}});
+        drag(at(2, 10), at(8, 6));
+        QCOMPARE(stored(), (ScriptPoints{{8, 20}}));
+        show({{2, 10}, {8, 20}});
+        drag(at(8, 20), at(2, 6));
+        QCOMPARE(stored(), (ScriptPoints{{2, 6}}));
     }
 
     void altRemovesUntilNoneIsLeft()
@@ -121,41 +112,17 @@ private slots:
         QCOMPARE(stored().size(), 3);
     }
 
-    void otherPressesDoNothing_data()
-    {
-        QTest::addColumn<bool>("editable");
-        QTest::addColumn<ScriptPoint>("place");
-        QTest::newRow("beside the line") << true << ScriptPoint{5, 20};
-        QTest::newRow("outside the plot") << true << ScriptPoint{-0.5, 10};
-        QTest::newRow("marker, read only") << false << ScriptPoint{8, 10};
-        QTest::newRow("line, read only") << false << ScriptPoint{5, 10};
-    }
-
     void otherPressesDoNothing()
     {
-        QFETCH(bool, editable);
-        QFETCH(ScriptPoint, place);
-        show({{2, 10}, {8, 10}}, editable);
-        drag(at(place.timeSeconds, place.speed), at(5, 29));
+        const ScriptPoints points{{2, 10}, {8, 10}};
+        show(points);
+        drag(at(5, 20), at(5, 29));    // beside the line
+        drag(at(-0.5, 10), at(5, 29)); // outside the plot
+        show(points, false);
+        drag(at(8, 10), at(5, 29)); // a marker that is only shown
+        drag(at(5, 10), at(5, 29));
         QVERIFY(stored().isEmpty());
-        QCOMPARE(m_script->pointList(), (ScriptPoints{{2, 10}, {8, 10}}));
-    }
-
-    void longScriptIsShownInPart()
-    {
-        m_script->setDurationSeconds(10000);
-        show({{100, 15}});
-        drag(at(1, 15), at(10, 15)); // a hundred times as far
-        QCOMPARE(stored(), (ScriptPoints{{1000, 15}}));
-    }
-
-    void damagedPointsLeaveTheOthersEditable()
-    {
-        show({{-1e300, 5}, {2, 10}, {3, 1e300}, {1e300, -1e300}});
-        drag(at(2, 10), at(1, 12));
-        const ScriptPoints points = stored();
-        QCOMPARE(points.size(), 4);
-        QCOMPARE(points.at(1), (ScriptPoint{1, 12}));
+        QCOMPARE(m_script->pointList(), points);
     }
 
     void dragEndsWithItsScript()
@@ -171,7 +138,7 @@ private slots:
         QVERIFY(stored().isEmpty());
     }
 
-    void plotKeepsBelowTheForm()
+    void plotKeepsBelowTheFormAndTheButtonInItsCorner()
     {
         show({});
         auto *form = m_viewer->findChild<PropertyListControl *>();
@@ -185,8 +152,19 @@ private slots:
         QVERIFY(QTest::qWaitFor([&] { return isBelow() && m_viewer->plotRectangle().top() > top; }));
         m_viewer->setScript(nullptr);
         m_viewer->grab();
-        QVERIFY(!m_viewer->findChild<PropertyListControl *>());
         QCOMPARE(m_viewer->plotRectangle().top(), 20);
+
+        m_viewer->resize(700, 300);
+        auto *button = m_viewer->findChild<QPushButton *>({}, Qt::FindDirectChildrenOnly);
+        QCOMPARE(button->geometry(), QRect(700 - 32, 8, 24, 24));
+        QString text;
+        QTimer::singleShot(0, this, [&text] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            text = dialog->findChild<QLabel *>()->text();
+            dialog->reject();
+        });
+        button->click();
+        QVERIFY(text.contains(u"'ALT'"_s));
     }
 
     void traceOfADayIsDrawnWhole()
@@ -198,40 +176,17 @@ private slots:
             speeds.append(15 + static_cast<double>(i * 7919 % 1500) / 100);
         viewer.setTimeSpan(86'400);
         viewer.setSpeedTrace(speeds);
-        QImage picture = viewer.grab().toImage();
-        const QRect plot = viewer.plotRectangle();
-        const auto isGreen = [&](int x, int y) {
-            const QColor color = picture.pixelColor(x, y);
-            return color.green() > color.red();
+        const auto isGreen = [](const QImage &picture, int x, int y) {
+            return picture.pixelColor(x, y).green() > picture.pixelColor(x, y).red();
         };
+        const QImage picture = viewer.grab().toImage();
+        const QRect plot = viewer.plotRectangle();
         for (int x = plot.left() + 1; x < plot.right(); ++x) {
-            QVERIFY2(isGreen(x, plot.bottom() - 2), qPrintable(QString::number(x)));
-            QVERIFY2(isGreen(x, plot.center().y() + 2), qPrintable(QString::number(x)));
+            for (const int y : {plot.bottom() - 2, plot.center().y() + 2})
+                QVERIFY2(isGreen(picture, x, y), qPrintable(QString::number(x)));
         }
         viewer.clearRecord();
-        picture = viewer.grab().toImage();
-        QVERIFY(!isGreen(plot.center().x(), plot.center().y() + 2));
-    }
-
-    void infoButtonKeepsTheCornerAndExplains()
-    {
-        show({});
-        QSignalSpy resized(m_viewer.get(), &SpeedScriptViewer::resized);
-        m_viewer->resize(700, 300);
-        QCOMPARE(resized.size(), 1);
-        auto *button = m_viewer->findChild<QPushButton *>({}, Qt::FindDirectChildrenOnly);
-        QCOMPARE(button->geometry(), QRect(700 - 32, 8, 24, 24));
-        QVERIFY(!button->icon().isNull());
-
-        QString text;
-        QTimer::singleShot(0, this, [&text] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            text = dialog->findChild<QLabel *>()->text();
-            dialog->reject();
-        });
-        button->click();
-        QCOMPARE(text.count(u"<br/>"_s), 2);
-        QVERIFY(text.contains(u"'ALT'"_s) && text.endsWith(u"dragging markers"_s));
+        QVERIFY(!isGreen(viewer.grab().toImage(), plot.center().x(), plot.center().y() + 2));
     }
 
 private:
