@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QSet>
@@ -53,10 +52,7 @@ private slots:
 
     void tellsWhenPicturesCannotBeSaved()
     {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(u"file"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(exitCode({u"--pictures"_s, file.fileName()}), 1);
+        QCOMPARE(exitCode({u"--pictures"_s, u"/dev/null"_s}), 1);
         QCOMPARE(exitCode({u"--unknown"_s}), 1);
     }
 };
