@@ -2,6 +2,7 @@
 
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
+#include "device/serialportmanager.h"
 #include "framework/common/widgets/apphelperdialogs.h"
 #include "framework/common/widgets/applicationlook.h"
 #include "framework/common/widgets/stylehelper.h"
@@ -26,6 +27,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(SPINBAR_VERSION));
     if (AppHelper::checkAndCloseIfAppsRunning({u"Cagelight"_s, u"Spinbar"_s}, RunningAppsAttempts))
         return 0;
+    // The model asks for the ports at once, and the system takes as long to list them as the fonts to load.
+    SerialPortManager::instance().listAhead();
     ApplicationLook::installFonts();
     ApplicationLook::installThemes();
     LanguageContext::setSearchesApplicationFolder(false);

@@ -23,9 +23,16 @@ void SerialPortManager::setProvider(const Provider &provider)
     m_provider = provider;
 }
 
+void SerialPortManager::listAhead()
+{
+    m_listAhead = std::async(std::launch::async, SerialPorts::listed);
+}
+
 QList<PortInfo> SerialPortManager::listedPorts() const
 {
-    return m_provider ? m_provider() : SerialPorts::listed();
+    if (m_provider)
+        return m_provider();
+    return m_listAhead.valid() ? m_listAhead.get() : SerialPorts::listed();
 }
 
 QList<PortInfo> SerialPortManager::availablePorts(const QString &owner) const

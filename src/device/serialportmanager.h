@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <vector>
 
@@ -21,6 +22,10 @@ public:
 
     /// Takes the place of SerialPorts::listed(); an empty one restores it.
     void setProvider(const Provider &provider);
+
+    /// Begins to list the ports beside what the caller goes on with. The next call that needs the list waits
+    /// for that one, so it should not be far off.
+    void listAhead();
 
     /// All ports, whoever holds them.
     QList<PortInfo> listedPorts() const;
@@ -60,6 +65,7 @@ private:
     QSerialPort *claimPort(const QString &name, const QString &owner);
 
     Provider m_provider;
+    mutable std::future<QList<PortInfo>> m_listAhead;
     /// In the order of creation.
     std::vector<Entry> m_ports;
 };

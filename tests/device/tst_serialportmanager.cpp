@@ -81,6 +81,23 @@ private slots:
         QVERIFY(ports.sliced(systemPorts.size()) == expected);
     }
 
+    void listTakenAheadServesOnce()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"port"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        qputenv("SPINBAR_SERIAL_PORTS", file.fileName().toLocal8Bit());
+        SerialPortManager &manager = SerialPortManager::instance();
+        manager.setProvider({});
+        const QStringList listed = manager.availablePortNames({});
+        QCOMPARE(listed.filter(file.fileName()).size(), 1);
+        manager.listAhead();
+        QCOMPARE(manager.availablePortNames({}), listed);
+        QVERIFY(file.remove());
+        QCOMPARE(manager.availablePortNames({}).size(), listed.size() - 1);
+        qputenv("SPINBAR_SERIAL_PORTS", "");
+    }
+
     void numbersAreStableAndUnique()
     {
         QCOMPARE(SerialPorts::number(u"COM7"_s), 7);
