@@ -75,7 +75,9 @@ QString AboutFacts::system()
                       QSysInfo::kernelVersion());
 }
 
-QString AboutFacts::addresses()
+namespace {
+
+QString currentAddresses()
 {
     QStringList addresses;
     for (const QNetworkInterface &card : QNetworkInterface::allInterfaces()) {
@@ -88,6 +90,14 @@ QString AboutFacts::addresses()
         }
     }
     return addresses.join("\r\n"_L1);
+}
+
+} // namespace
+
+const QString &AboutFacts::addresses()
+{
+    static const QString read = currentAddresses();
+    return read;
 }
 
 QString AboutFacts::developers(const QMap<QString, QDateTime> &developers, const QDate &today)

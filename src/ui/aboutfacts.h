@@ -20,8 +20,8 @@ QString manual(const QStringList &folders, const QString &language);
 QString version();
 /// Rich: the operating system with its word size and kernel.
 QString system();
-/// The IPv4 addresses of the interfaces that run, but for the loopback, a line each.
-QString addresses();
+/// The IPv4 addresses of the interfaces that run, but for the loopback, a line each. Read at the first call.
+const QString &addresses();
 
 /// Rich: the names in order, with a balloon for whom day and month of \a today are those of their date.
 QString developers(const QMap<QString, QDateTime> &developers, const QDate &today);

@@ -1,6 +1,7 @@
 #include "ui/pageabout.h"
 
 #include "ui/aboutappwidget.h"
+#include "ui/aboutfacts.h"
 
 #include <QGridLayout>
 
@@ -21,6 +22,18 @@ PageAbout::PageAbout(QWidget *parent)
     : QWidget(parent)
 {
     setContentsMargins({});
+    AboutFacts::addresses();
+}
+
+void PageAbout::setVisible(bool visible)
+{
+    if (visible && !layout())
+        layOut();
+    QWidget::setVisible(visible);
+}
+
+void PageAbout::layOut()
+{
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(SideMargin, 0, SideMargin, 0);
     const QStringList links{u"https://primerov-lab.example"_s, u"https://primerov-lab.example/spinbar"_s};
