@@ -8,8 +8,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,20 +30,35 @@ QImage bitmap(const QString &path)
 IconWidget::IconWidget(const QString &path, const QString &color, const QSize &size,
                        const QString &colorToReplace, QWidget *parent)
     : QWidget(parent)
+    , m_path(MediaHelper::resourcePath(path))
+    , m_color(color)
+    , m_colorToReplace(colorToReplace)
 {
-    if (path.endsWith(".svg"_L1)) {
-        loadDrawing(path, color, colorToReplace);
-    } else {
-        m_bitmapPath = MediaHelper::resourcePath(path);
-    }
     if (size.width() > 0 && size.height() > 0)
         setFixedSize(size);
 }
 
-void IconWidget::loadDrawing(const QString &path, const QString &color, const QString &colorToReplace)
+bool IconWidget::isAnimated()
 {
-    const QString text = color.isEmpty() ? SvgText::read(MediaHelper::resourcePath(path))
-                                         : MediaHelper::recolorSVG(path, color, colorToReplace);
+    load();
+    return m_isAnimated;
+}
+
+void IconWidget::load()
+{
+    if (m_path.endsWith(".svg"_L1)) {
+        loadDrawing();
+    } else if (!m_path.isEmpty()) {
+        m_picture = bitmap(m_path);
+        m_naturalSize = m_picture.size();
+    }
+    m_path.clear();
+}
+
+void IconWidget::loadDrawing()
+{
+    const QString text = m_color.isEmpty() ? SvgText::read(m_path)
+                                           : MediaHelper::recolorSVG(m_path, m_color, m_colorToReplace);
     m_picture = SvgText::rendered(text).convertToFormat(QImage::Format_RGBA8888);
     if (m_picture.isNull())
         return; // unreadable, or nothing that a renderer should be trusted with
@@ -78,10 +91,7 @@ bool IconWidget::isLive() const
 
 void IconWidget::paintEvent(QPaintEvent *)
 {
-    if (!m_bitmapPath.isEmpty()) {
-        m_picture = bitmap(std::exchange(m_bitmapPath, {}));
-        m_naturalSize = m_picture.size();
-    }
+    load();
     QPainter painter(this);
     painter.fillRect(rect(), Qt::transparent);
     if (m_naturalSize.isEmpty())

@@ -19,17 +19,20 @@ public:
                QWidget *parent = nullptr);
 
     void animate(bool on);
-    bool isAnimated() const { return m_isAnimated; }
+    bool isAnimated();
     void setInvertedEnabledBehavior(bool inverted);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void loadDrawing(const QString &path, const QString &color, const QString &colorToReplace);
+    void load();
+    void loadDrawing();
     bool isLive() const;
 
-    QString m_bitmapPath; ///< until the bitmap is needed
+    QString m_path; ///< empty once the picture is loaded, which it is when it is needed
+    QString m_color;
+    QString m_colorToReplace;
     QImage m_picture;
     QSvgRenderer *m_renderer = nullptr;
     bool m_isAnimated = false;

@@ -1,7 +1,9 @@
 #include "framework/common/widgets/mediahelper.h"
 
+#include "framework/common/widgets/lateicon.h"
 #include "framework/common/widgets/svgtext.h"
 
+#include <QFile>
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
@@ -39,6 +41,22 @@ QPixmap faded(const QPixmap &pixmap)
     return result;
 }
 
+QIcon drawingIcon(const QString &file)
+{
+    QIcon icon(file);
+    // Otherwise the style tints it in selected rows.
+    icon.addFile(file, {}, QIcon::Selected);
+    return icon;
+}
+
+QIcon bitmapIcon(const QString &file)
+{
+    const QPixmap bitmap(file);
+    QIcon icon(bitmap);
+    icon.addPixmap(bitmap, QIcon::Selected);
+    return icon;
+}
+
 /// In the drawing's own size, and in twice that for dense screens.
 QIcon drawnIcon(const QString &svg)
 {
@@ -68,10 +86,9 @@ QIcon MediaHelper::icon(const QString &path)
 {
     const QString file = resourcePath(path);
     return cached(file, [&file] {
-        QIcon icon(file);
-        // Otherwise the style tints it in selected rows.
-        icon.addFile(file, {}, QIcon::Selected);
-        return icon;
+        if (file.endsWith(".svg"_L1) || !QFile::exists(file))
+            return drawingIcon(file);
+        return QIcon(new LateIcon([file] { return bitmapIcon(file); }));
     });
 }
 

@@ -36,11 +36,6 @@ QString lightStyleName()
     return QStyleFactory::keys().contains(platform, Qt::CaseInsensitive) ? platform : u"Fusion"_s;
 }
 
-QIcon darkIcon(const QString &path, const QString &color)
-{
-    return MediaHelper::iconColored(path, color, drawnColor());
-}
-
 } // namespace
 
 namespace StyleHelper {
@@ -124,6 +119,15 @@ void Styler::follow(QObject *target, const std::function<void()> &apply)
     apply();
 }
 
+QIcon Styler::icon(const QString &path, const QString &darkColor) const
+{
+    if (m_dark) {
+        if (const QIcon dark = MediaHelper::iconColored(path, darkColor, drawnColor()); !dark.isNull())
+            return dark;
+    }
+    return MediaHelper::icon(path);
+}
+
 void Styler::setButtonIcon(QPushButton *button, const QIcon &light, const QIcon &dark)
 {
     if (dark.isNull())
@@ -152,17 +156,18 @@ void Styler::setMenuActionIcon(QAction *action, const QIcon &light, const QIcon 
 
 void Styler::setButtonIcon(QPushButton *button, const QString &path, const QString &darkColor)
 {
-    setButtonIcon(button, MediaHelper::icon(path), darkIcon(path, darkColor));
+    follow(button, [this, button, path, darkColor] { button->setIcon(icon(path, darkColor)); });
 }
 
 void Styler::setLabelIcon(QLabel *label, const QString &path, const QString &darkColor)
 {
-    setLabelIcon(label, MediaHelper::icon(path), darkIcon(path, darkColor));
+    follow(label,
+           [this, label, path, darkColor] { label->setPixmap(icon(path, darkColor).pixmap(label->size())); });
 }
 
 void Styler::setMenuActionIcon(QAction *action, const QString &path, const QString &darkColor)
 {
-    setMenuActionIcon(action, MediaHelper::icon(path), darkIcon(path, darkColor));
+    follow(action, [this, action, path, darkColor] { action->setIcon(icon(path, darkColor)); });
 }
 
 void Styler::setStyledBackground(QWidget *widget, const QString &name, const QColor &fallback)
@@ -198,7 +203,7 @@ QString ThemeValue(const QString &name, const QString &fallback)
 
 QIcon ColoredIcon(const QString &path, const QString &darkColor)
 {
-    return Instance()->isDark() ? darkIcon(path, darkColor) : MediaHelper::icon(path);
+    return Instance()->icon(path, darkColor);
 }
 
 void InterlinkTheme(QObject *settings, const QString &property)

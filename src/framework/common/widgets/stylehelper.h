@@ -46,12 +46,16 @@ public:
     /// Wins over the theme's variable of that name. The style sheet follows with the next selectTheme().
     void setCustomValue(const QString &name, const QString &value);
 
+    /// The black drawing at \a path as the theme in force needs it: with \a darkColor in the place of black
+    /// in the dark one. It doesn't follow later changes.
+    QIcon icon(const QString &path, const QString &darkColor) const;
+
     /// These follow the theme for as long as the target lives. A null \a dark means the light icon for good.
     void setButtonIcon(QPushButton *button, const QIcon &light, const QIcon &dark);
     void setLabelIcon(QLabel *label, const QIcon &light, const QIcon &dark);
     void setMenuActionIcon(QAction *action, const QIcon &light, const QIcon &dark);
 
-    /// With the black drawing at \a path, and \a darkColor in the place of black for the dark theme.
+    /// With icon(\a path, \a darkColor).
     void setButtonIcon(QPushButton *button, const QString &path, const QString &darkColor);
     void setLabelIcon(QLabel *label, const QString &path, const QString &darkColor);
     void setMenuActionIcon(QAction *action, const QString &path, const QString &darkColor);
@@ -84,7 +88,7 @@ QString ThemeValue(const QString &name, const QString &fallback);
 /// A colour chosen for a light ground, as light as it has to be in the theme in force.
 QColor ReadableColor(const QColor &color);
 
-/// As the theme in force needs it; it doesn't follow later changes.
+/// Styler::icon().
 QIcon ColoredIcon(const QString &path, const QString &darkColor);
 
 /// Selects the theme "light" or "dark" by \a property of \a settings, at once and on every change of it, and
