@@ -1,17 +1,15 @@
 #include "framework/settings/widgets/enumpropertyview.h"
 
+#include "framework/common/widgets/listcombobox.h"
 #include "framework/settings/abstractmetadescription.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
-#include <QListView>
 #include <QSignalBlocker>
 
 EnumPropertyView::EnumPropertyView(AbstractMetaDescription *description, QWidget *parent)
     : BasePropertyView(description, parent)
-    , m_box(new QComboBox(this))
+    , m_box(new ListComboBox(this))
 {
-    m_box->setView(new QListView(m_box)); // a style sheet reaches the items of this one only
     const QMetaEnum enumeration = description->enumerator();
     for (int i = 0; i < enumeration.keyCount(); ++i)
         m_box->addItem(QCoreApplication::translate(enumeration.name(), enumeration.key(i)),

@@ -2,10 +2,9 @@
 
 #include "framework/settings/widgets/propertytext.h"
 
+#include "framework/common/widgets/listcombobox.h"
 #include "framework/settings/abstractmetadescription.h"
 
-#include <QComboBox>
-#include <QListView>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
@@ -15,8 +14,7 @@ EnumStringListPropertyView::EnumStringListPropertyView(AbstractMetaDescription *
 {
     if (description->enums.isEmpty())
         return;
-    m_box = new QComboBox(this);
-    m_box->setView(new QListView(m_box));
+    m_box = new ListComboBox(this);
     for (qsizetype i = 0; i < description->enums.size(); ++i)
         m_box->addItem(PropertyText::translated(description->enums.at(i)), static_cast<int>(i));
     setEditor(m_box);

@@ -1,6 +1,7 @@
 #include "framework/common/ntimer.h"
 #include "framework/common/widgets/iconfit.h"
 #include "framework/common/widgets/iconwidget.h"
+#include "framework/common/widgets/listcombobox.h"
 #include "framework/common/widgets/nellipse.h"
 #include "framework/common/widgets/npushbutton.h"
 #include "framework/common/widgets/nscrollviewer.h"
@@ -10,6 +11,7 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QListView>
 #include <QPointer>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -92,6 +94,22 @@ private slots:
         QCOMPARE(iconFit({45, 20}, {10, 10}), QRectF(12, 0, 20, 20));
         QCOMPARE(iconFit({10, 25}, {20, 10}), QRectF(0, 10, 10, 5));
         QCOMPARE(iconFit({10, 25}, {0, 0}), QRectF());
+    }
+
+    void comboBoxShowsAListWhenOpened()
+    {
+        ListComboBox box;
+        box.addItems({u"a"_s, u"b"_s});
+        box.setFont(QFont(box.font().family(), 10));
+        const int height = box.sizeHint().height();
+        box.setFont(QFont(box.font().family(), 40));
+        QVERIFY(box.sizeHint().height() > height);
+        box.show();
+        box.showPopup();
+        QCOMPARE(box.view()->metaObject(), &QListView::staticMetaObject);
+        QTest::keyClick(box.view(), Qt::Key_Down);
+        QTest::keyClick(box.view(), Qt::Key_Return);
+        QTRY_COMPARE(box.currentText(), u"b"_s);
     }
 
     void iconDrawsItsFile()
