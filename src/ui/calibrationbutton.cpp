@@ -45,8 +45,9 @@ QIcon warningIcon()
 
 } // namespace
 
-CalibrationButton::CalibrationButton(CurlySpinbar *device, SpinbarSettings *settings, QWidget *dialogParent)
-    : QPushButton(translated(QT_TRANSLATE_NOOP("SpinbarController", "Калибровка датчиков")))
+CalibrationButton::CalibrationButton(CurlySpinbar *device, SpinbarSettings *settings, QWidget *dialogParent,
+                                     QWidget *parent)
+    : QPushButton(translated(QT_TRANSLATE_NOOP("SpinbarController", "Калибровка датчиков")), parent)
     , m_device(device)
     , m_settings(settings)
     , m_dialogParent(dialogParent)

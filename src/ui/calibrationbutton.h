@@ -13,7 +13,8 @@ class CalibrationButton : public QPushButton
 
 public:
     /// Neither collaborator is owned. Dialogs are children of \a dialogParent.
-    CalibrationButton(CurlySpinbar *device, SpinbarSettings *settings, QWidget *dialogParent);
+    CalibrationButton(CurlySpinbar *device, SpinbarSettings *settings, QWidget *dialogParent,
+                      QWidget *parent);
 
     /// Gives the lanes of the present drum their thresholds and shows whether there are any.
     void applyCalibration();

@@ -26,13 +26,15 @@ ConnectionBar::ConnectionBar(CurlySpinbar *device, QWidget *parent)
 {
     m_powerIcon = ControlRow::icon(
         u":/resources/images/power_green.svg"_s, {},
-        QCoreApplication::translate("SpinbarController", "Спинбар и силовое питание подключено"));
-    m_noDeviceIcon = ControlRow::icon(u":/resources/images/power_off_red.svg"_s, u"#999"_s,
-                                      QCoreApplication::translate("SpinbarController", "Спинбар не найден"));
+        QCoreApplication::translate("SpinbarController", "Спинбар и силовое питание подключено"), this);
+    m_noDeviceIcon =
+        ControlRow::icon(u":/resources/images/power_off_red.svg"_s, u"#999"_s,
+                         QCoreApplication::translate("SpinbarController", "Спинбар не найден"), this);
     m_noPowerIcon = ControlRow::icon(
         u":/resources/images/power_off_red.svg"_s, {},
-        QCoreApplication::translate("SpinbarController", "Спинбар найден, но силовое питание не подключено"));
-    m_label = new QLabel;
+        QCoreApplication::translate("SpinbarController", "Спинбар найден, но силовое питание не подключено"),
+        this);
+    m_label = new QLabel(this);
     m_label->setContextMenuPolicy(Qt::CustomContextMenu);
     setLayout(ControlRow::create(IconSpacing, {m_powerIcon, m_noDeviceIcon, m_noPowerIcon, m_label}));
     connect(m_label, &QWidget::customContextMenuRequested, this, &ConnectionBar::showMenu);

@@ -52,17 +52,18 @@ QHBoxLayout *ControlRow::createFilled(int spacing, const QList<QWidget *> &widge
     return row;
 }
 
-IconWidget *ControlRow::icon(const QString &path, const QString &color, const QString &tooltip)
+IconWidget *ControlRow::icon(const QString &path, const QString &color, const QString &tooltip,
+                             QWidget *parent)
 {
-    auto *icon = new IconWidget(path, color, {IconSize, IconSize}, {});
+    auto *icon = new IconWidget(path, color, {IconSize, IconSize}, {}, parent);
     icon->setToolTip(tooltip);
     icon->setAccessibleName(tooltip);
     return icon;
 }
 
-QPushButton *ControlRow::offButton(const QString &color, const QString &tooltip)
+QPushButton *ControlRow::offButton(const QString &color, const QString &tooltip, QWidget *parent)
 {
-    auto *button = new QPushButton(QCoreApplication::translate("SpinbarController", "Off"));
+    auto *button = new QPushButton(QCoreApplication::translate("SpinbarController", "Off"), parent);
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet("QPushButton { border-radius: 13px; background: "_L1 + color + '}'_L1);
     button->setToolTip(tooltip);

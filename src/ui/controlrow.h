@@ -18,9 +18,9 @@ QHBoxLayout *create(int spacing, const QList<QWidget *> &widgets);
 QHBoxLayout *createFilled(int spacing, const QList<QWidget *> &widgets);
 
 /// A drawing with a tooltip; an empty \a color means its own colours.
-IconWidget *icon(const QString &path, const QString &color, const QString &tooltip);
+IconWidget *icon(const QString &path, const QString &color, const QString &tooltip, QWidget *parent);
 
 /// A round button for switching something off. The tooltip is its accessible name: there are several.
-QPushButton *offButton(const QString &color, const QString &tooltip);
+QPushButton *offButton(const QString &color, const QString &tooltip, QWidget *parent);
 
 } // namespace ControlRow

@@ -37,7 +37,7 @@ GridControl::GridControl(CurlySpinbar *device, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(
-        ControlRow::create(IconSpacing, {m_offIcon, m_onIcon, new QLabel(name), nullptr, m_offButton}));
+        ControlRow::create(IconSpacing, {m_offIcon, m_onIcon, new QLabel(name, this), nullptr, m_offButton}));
     layout->addLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));
     connectWidgets();
 }
@@ -47,14 +47,14 @@ void GridControl::createWidgets()
     // The grid under current has deliberately the tooltip of the one without.
     const QString tooltip =
         QCoreApplication::translate("SpinbarController", "Электрическая сетка не включена");
-    m_offIcon = ControlRow::icon(u":/resources/images/bolt.svg"_s, u"#666"_s, tooltip);
-    m_onIcon = ControlRow::icon(u":/resources/images/bolt.svg"_s, u"#C30"_s, tooltip);
+    m_offIcon = ControlRow::icon(u":/resources/images/bolt.svg"_s, u"#666"_s, tooltip, this);
+    m_onIcon = ControlRow::icon(u":/resources/images/bolt.svg"_s, u"#C30"_s, tooltip, this);
     m_offButton = ControlRow::offButton(
-        u"#C30"_s, QCoreApplication::translate("SpinbarController", "Выключить электросетку"));
-    m_slider = new DirectJumpSlider(nullptr);
+        u"#C30"_s, QCoreApplication::translate("SpinbarController", "Выключить электросетку"), this);
+    m_slider = new DirectJumpSlider(this);
     m_slider->setRange(0, int(MaximumMa) * SliderPerMa);
     m_slider->setValue(0);
-    m_spinBox = new QDoubleSpinBox;
+    m_spinBox = new QDoubleSpinBox(this);
     m_spinBox->setRange(0.0, MaximumMa);
     m_spinBox->setSuffix(QCoreApplication::translate("Generic", "mA"));
     m_spinBox->setDecimals(1);

@@ -86,11 +86,11 @@ void MainWindow::createPages(QHBoxLayout *header)
 NEllipse *MainWindow::addPage(QHBoxLayout *header, QWidget *page, const QString &title,
                               const QColor &dotColor)
 {
-    auto *button = new QPushButton;
+    auto *button = new QPushButton(header->parentWidget());
     auto *layout = new QHBoxLayout(button);
     layout->setSpacing(0);
     layout->setContentsMargins(PageButtonMargins);
-    auto *label = new QLabel(title);
+    auto *label = new QLabel(title, button);
     layout->addWidget(label);
     button->setAccessibleName(title);
     button->setCursor(Qt::PointingHandCursor);

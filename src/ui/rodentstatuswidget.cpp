@@ -67,11 +67,11 @@ void RodentStatusWidget::createWidgets(bool rat)
 {
     const QSize size = rat ? RatIconSize : MouseIconSize;
     m_rodentIcon = new IconWidget(rat ? u":/resources/images/rat.png"_s : u":/resources/images/mouse.png"_s,
-                                  {}, size, {});
-    m_noRodentIcon = new IconWidget(u":/resources/images/no-rodent.png"_s, {}, size, {});
-    m_infraRedLabel = new QLabel;
-    m_timeLabel = new QLabel;
-    m_distanceLabel = new QLabel;
+                                  {}, size, {}, this);
+    m_noRodentIcon = new IconWidget(u":/resources/images/no-rodent.png"_s, {}, size, {}, this);
+    m_infraRedLabel = new QLabel(this);
+    m_timeLabel = new QLabel(this);
+    m_distanceLabel = new QLabel(this);
     m_rodentIcon->hide();
 
     setContentsMargins(0, 0, 0, 0);

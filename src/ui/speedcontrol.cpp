@@ -63,29 +63,27 @@ SpeedControl::SpeedControl(SpinbarModel &model, QWidget *parent)
     m_tabs = new QTabWidget(this);
     layout->addWidget(m_tabs, Filling);
     createManualWidgets();
-    m_runner = new SpeedScriptSelectAndRunWidget(model, m_tabs);
-    m_runner->findChild<SpeedScriptViewer *>()->setMinimumHeight(LeastScriptGraphHeight);
-    m_tabs->addTab(m_runner, translated(QT_TRANSLATE_NOOP("SpinbarController", "Script")));
+    createRunner(model);
     connectWidgets();
 }
 
 QLayout *SpeedControl::createTitleRow()
 {
-    m_standingIcon =
-        ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#666"_s,
-                         translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение не осуществляется")));
+    m_standingIcon = ControlRow::icon(
+        u":/resources/images/speed_on.svg"_s, u"#666"_s,
+        translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение не осуществляется")), this);
     m_standingIcon->animate(false);
     m_rotationIcon =
         ControlRow::icon(u":/resources/images/speed_on.svg"_s, u"#FFF"_s,
-                         translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение включено")));
-    m_offButton = ControlRow::offButton(
-        u"#F60"_s, translated(QT_TRANSLATE_NOOP("SpinbarController", "Выключить вращение")));
+                         translated(QT_TRANSLATE_NOOP("SpinbarController", "Вращение включено")), this);
     auto *unit = new PropertyListControl(m_settings, u"RotationDimension"_s,
                                          PropertyListControl::ViewMode_Property, this);
     unit->showDefaultButtons(false);
     unit->showHeaders(false);
     unit->setMinimumEditorWidth(0);
-    auto *title = new QLabel(translated(QT_TRANSLATE_NOOP("SpinbarController", "Speed")));
+    m_offButton = ControlRow::offButton(
+        u"#F60"_s, translated(QT_TRANSLATE_NOOP("SpinbarController", "Выключить вращение")), this);
+    auto *title = new QLabel(translated(QT_TRANSLATE_NOOP("SpinbarController", "Speed")), this);
     return ControlRow::create(IconSpacing,
                               {m_standingIcon, m_rotationIcon, title, unit, nullptr, m_offButton});
 }
@@ -93,20 +91,37 @@ QLayout *SpeedControl::createTitleRow()
 void SpeedControl::createManualWidgets()
 {
     const QString name = translated(QT_TRANSLATE_NOOP("SpinbarController", "Speed"));
-    m_slider = new DirectJumpSlider(nullptr);
+    QWidget *page = addPage(translated(QT_TRANSLATE_NOOP("SpinbarController", "Manual control")));
+    m_slider = new DirectJumpSlider(page);
     m_slider->setRange(0, SliderMaximum);
     m_slider->setValue(0);
     m_slider->setAccessibleName(name);
-    m_spinBox = new QDoubleSpinBox;
+    m_spinBox = new QDoubleSpinBox(page);
     m_spinBox->setStyleSheet(u"font-size: 14px"_s);
     m_spinBox->setAccessibleName(name);
     // The tab is as high as that of the scripts.
-    auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(TabMargin, TabMargin, TabMargin, TabMargin);
     layout->addLayout(ControlRow::createFilled(SliderSpacing, {m_slider, m_spinBox}));
     layout->addStretch();
-    m_tabs->addTab(page, translated(QT_TRANSLATE_NOOP("SpinbarController", "Manual control")));
+}
+
+void SpeedControl::createRunner(SpinbarModel &model)
+{
+    QWidget *page = addPage(translated(QT_TRANSLATE_NOOP("SpinbarController", "Script")));
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    m_runner = new SpeedScriptSelectAndRunWidget(model, page);
+    m_runner->findChild<SpeedScriptViewer *>()->setMinimumHeight(LeastScriptGraphHeight);
+    layout->addWidget(m_runner);
+}
+
+QWidget *SpeedControl::addPage(const QString &title)
+{
+    // Added before it is filled: what is moved with all its children takes on the style sheet anew.
+    auto *page = new QWidget;
+    m_tabs->addTab(page, title);
+    return page;
 }
 
 void SpeedControl::connectWidgets()

@@ -35,6 +35,8 @@ public:
 
 private:
     void createManualWidgets();
+    void createRunner(SpinbarModel &model);
+    QWidget *addPage(const QString &title);
     QLayout *createTitleRow();
     void connectWidgets();
     void passDimensionToScript();

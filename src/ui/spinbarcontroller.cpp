@@ -12,11 +12,11 @@
 #include "core/spinbarsettings.h"
 #include "device/curlyspinbar.h"
 #include "framework/common/texthelper.h"
+#include "framework/common/widgets/listcombobox.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -41,9 +41,9 @@ constexpr QMargins LaneMargins{0, 16, 0, 16};
 
 SpinbarController *theController = nullptr;
 
-QPushButton *bigButton(const QString &text)
+QPushButton *bigButton(const QString &text, QWidget *parent)
 {
-    auto *button = new QPushButton(text);
+    auto *button = new QPushButton(text, parent);
     button->setStyleSheet(u"font-size: 18px"_s);
     button->setCursor(Qt::PointingHandCursor);
     button->setMinimumHeight(BigButtonHeight);
@@ -96,23 +96,22 @@ void SpinbarController::createWidgets()
 {
     m_panel = new QWidget(this);
     m_laneArea = new QWidget(this);
-    m_notConnectedLabel = new QLabel(tr("Device is not connected"));
+    m_notConnectedLabel = new QLabel(tr("Device is not connected"), this);
     m_notConnectedLabel->setStyleSheet(u"font-size: 20px; color: #999"_s);
     m_notConnectedLabel->setAlignment(Qt::AlignCenter);
     m_connectionBar = new ConnectionBar(m_device, m_panel);
-    m_rodentBox = new QComboBox(m_panel);
-    m_rodentBox->addItem(QIcon(u":/resources/images/rat.png"_s),
+    m_rodentBox = new ListComboBox(m_panel);
+    m_rodentBox->addItem(MediaHelper::icon(u":/resources/images/rat.png"_s),
                          QCoreApplication::translate("RodentMode", "Rats"));
-    m_rodentBox->addItem(QIcon(u":/resources/images/mouse.png"_s),
+    m_rodentBox->addItem(MediaHelper::icon(u":/resources/images/mouse.png"_s),
                          QCoreApplication::translate("RodentMode", "Mice"));
     m_rodentBox->setAccessibleName(QCoreApplication::translate("Generic", "RodentMode"));
-    m_calibrationButton = new CalibrationButton(m_device, m_settings, this);
-    m_calibrationButton->setParent(m_panel);
+    m_calibrationButton = new CalibrationButton(m_device, m_settings, this, m_panel);
     m_grid = new GridControl(m_device, m_panel);
     m_speed = new SpeedControl(*m_model, m_panel);
-    m_recordButton = bigButton(tr("Record"));
+    m_recordButton = bigButton(tr("Record"), m_panel);
     m_recordButton->setIcon(MediaHelper::icon(u":/icons/record.svg"_s));
-    m_stopButton = bigButton(tr("Stop"));
+    m_stopButton = bigButton(tr("Stop"), m_panel);
     StyleHelper::SetButtonIcon(m_stopButton, u":/icons/stop.svg"_s, u"#FFF"_s);
 }
 

@@ -2,16 +2,14 @@
 
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
-#include "framework/common/apphelper.h"
+#include "framework/common/widgets/listcombobox.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "scripts/speedscript.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -41,19 +39,11 @@ BaseSpeedScriptSelectWidget::BaseSpeedScriptSelectWidget(SpinbarModel &model, bo
 
 void BaseSpeedScriptSelectWidget::buildInterface()
 {
-    m_graph = new SpeedScriptViewer(nullptr, m_editable, nullptr);
-    m_combo = new QComboBox;
-    m_combo->setView(new QListView); // so that the style sheet reaches the items
-    m_combo->setPlaceholderText(tr("Not selected"));
-    m_combo->setAccessibleName(QCoreApplication::translate("Generic", "Script"));
-    m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_combo->setMinimumContentsLength(ShortestTitle);
-    connect(m_combo, &QComboBox::currentIndexChanged, this, &BaseSpeedScriptSelectWidget::selectScript);
-
     setContentsMargins({});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(createTopRow());
+    m_graph = new SpeedScriptViewer(nullptr, m_editable, this);
     layout->addWidget(m_graph, Stretch);
     if (const QList<QWidget *> widgets = bottomRowWidgets(); !widgets.isEmpty()) {
         auto *row = new QHBoxLayout;
@@ -70,15 +60,16 @@ void BaseSpeedScriptSelectWidget::buildInterface()
 
 QWidget *BaseSpeedScriptSelectWidget::createTopRow()
 {
-    auto *row = new QWidget;
+    auto *row = new QWidget(this);
     if (m_editable)
         StyleHelper::Instance()->setStyledBackground(row, u"--n-idle-bg"_s, QColor(0xF6F6F6));
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     if (m_editable)
-        layout->addWidget(new QLabel(QCoreApplication::translate("Generic", "Script") + ':'_L1));
+        layout->addWidget(new QLabel(QCoreApplication::translate("Generic", "Script") + ':'_L1, row));
+    m_combo = createCombo(row);
     layout->addWidget(m_combo, Stretch);
-    for (QWidget *widget : topRowWidgets()) {
+    for (QWidget *widget : topRowWidgets(row)) {
         if (widget)
             layout->addWidget(widget);
         else
@@ -87,12 +78,24 @@ QWidget *BaseSpeedScriptSelectWidget::createTopRow()
     return row;
 }
 
-QPushButton *BaseSpeedScriptSelectWidget::makeToolButton(const QString &text, const QString &icon)
+QComboBox *BaseSpeedScriptSelectWidget::createCombo(QWidget *parent)
 {
-    auto *button = new QPushButton;
+    auto *combo = new ListComboBox(parent);
+    combo->setPlaceholderText(tr("Not selected"));
+    combo->setAccessibleName(QCoreApplication::translate("Generic", "Script"));
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(ShortestTitle);
+    connect(combo, &QComboBox::currentIndexChanged, this, &BaseSpeedScriptSelectWidget::selectScript);
+    return combo;
+}
+
+QPushButton *BaseSpeedScriptSelectWidget::makeToolButton(const QString &text, const QString &icon,
+                                                         QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
     button->setFixedSize(ToolButtonSize, ToolButtonSize);
     button->setIconSize({ToolIconSize, ToolIconSize});
-    StyleHelper::SetButtonIcon(button, AppHelper::findInResources(icon), u"#FFF"_s);
+    StyleHelper::SetButtonIcon(button, ":/icons/"_L1 + icon, u"#FFF"_s);
     button->setToolTip(text);
     button->setAccessibleName(text);
     button->setCursor(Qt::PointingHandCursor);

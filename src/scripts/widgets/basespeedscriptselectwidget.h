@@ -29,15 +29,15 @@ public:
                       CurlySpinbarDevice::RodentMode rodentMode);
 
 protected:
-    /// For the row of the combo box; null stands for a gap.
-    virtual QList<QWidget *> topRowWidgets() = 0;
+    /// For the row of the combo box, which is to be their parent; null stands for a gap.
+    virtual QList<QWidget *> topRowWidgets(QWidget *row) = 0;
     /// For a row under the graph; null is passed over.
     virtual QList<QWidget *> bottomRowWidgets() = 0;
     virtual void scriptChanged() {}
 
     void buildInterface();
     /// A small square button with an icon of the resources that follows the theme.
-    static QPushButton *makeToolButton(const QString &text, const QString &icon);
+    static QPushButton *makeToolButton(const QString &text, const QString &icon, QWidget *parent);
     /// Enabled exactly while a script is loaded.
     void addDependentWidget(QWidget *widget) { m_dependentWidgets.append(widget); }
 
@@ -51,6 +51,7 @@ protected:
 
 private:
     QWidget *createTopRow();
+    QComboBox *createCombo(QWidget *parent);
     void selectScript();
     void updateDependentWidgets();
 

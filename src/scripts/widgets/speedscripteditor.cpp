@@ -36,12 +36,12 @@ SpeedScriptEditor::SpeedScriptEditor(SpinbarModel &model, QWidget *parent)
     applyDimension();
 }
 
-QList<QWidget *> SpeedScriptEditor::topRowWidgets()
+QList<QWidget *> SpeedScriptEditor::topRowWidgets(QWidget *row)
 {
-    QPushButton *renameButton = makeToolButton(tr("Rename script"), u"edit_rename.svg"_s);
-    QPushButton *cloneButton = makeToolButton(tr("Clone script"), u"copy.svg"_s);
-    QPushButton *removeButton = makeToolButton(tr("Remove script"), u"delete.svg"_s);
-    QPushButton *newButton = makeToolButton(tr("New script"), u"plus.svg"_s);
+    QPushButton *renameButton = makeToolButton(tr("Rename script"), u"edit_rename.svg"_s, row);
+    QPushButton *cloneButton = makeToolButton(tr("Clone script"), u"copy.svg"_s, row);
+    QPushButton *removeButton = makeToolButton(tr("Remove script"), u"delete.svg"_s, row);
+    QPushButton *newButton = makeToolButton(tr("New script"), u"plus.svg"_s, row);
     newButton->setIconSize(NewIconSize);
     for (QPushButton *button : {renameButton, cloneButton, removeButton})
         addDependentWidget(button);
@@ -56,7 +56,7 @@ QList<QWidget *> SpeedScriptEditor::topRowWidgets()
             askScriptTitle(this, title(), false, false);
     });
     connect(removeButton, &QPushButton::clicked, this, &SpeedScriptEditor::removeScript);
-    return {renameButton, cloneButton, removeButton, nullptr, new QLabel(u"|"_s), nullptr, newButton};
+    return {renameButton, cloneButton, removeButton, nullptr, new QLabel(u"|"_s, row), nullptr, newButton};
 }
 
 void SpeedScriptEditor::createOverlay()

@@ -16,7 +16,7 @@ public:
     SpeedScriptEditor(SpinbarModel &model, QWidget *parent);
 
 protected:
-    QList<QWidget *> topRowWidgets() override;
+    QList<QWidget *> topRowWidgets(QWidget *row) override;
     QList<QWidget *> bottomRowWidgets() override { return {}; }
 
 private:

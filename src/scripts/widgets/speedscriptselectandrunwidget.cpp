@@ -1,7 +1,6 @@
 #include "scripts/widgets/speedscriptselectandrunwidget.h"
 
 #include "core/spinbarmodel.h"
-#include "framework/common/apphelper.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "scripts/scriptplayer.h"
 #include "scripts/speedscript.h"
@@ -38,12 +37,12 @@ SpeedScriptSelectAndRunWidget::~SpeedScriptSelectAndRunWidget()
     m_player->disconnect(this);
 }
 
-QList<QWidget *> SpeedScriptSelectAndRunWidget::topRowWidgets()
+QList<QWidget *> SpeedScriptSelectAndRunWidget::topRowWidgets(QWidget *row)
 {
-    auto *button = new QPushButton;
+    auto *button = new QPushButton(row);
     button->setFixedSize(EditButtonSize, EditButtonSize);
     button->setIconSize({EditIconSize, EditIconSize});
-    StyleHelper::SetButtonIcon(button, AppHelper::findInResources(u"edit.svg"_s), u"#FFF"_s);
+    StyleHelper::SetButtonIcon(button, u":/icons/edit.svg"_s, u"#FFF"_s);
     button->setCursor(Qt::PointingHandCursor);
     button->setAccessibleName(QCoreApplication::translate("Generic", "Script editor"));
     connect(button, &QPushButton::clicked, this, &SpeedScriptSelectAndRunWidget::editScripts);
@@ -52,10 +51,10 @@ QList<QWidget *> SpeedScriptSelectAndRunWidget::topRowWidgets()
 
 QList<QWidget *> SpeedScriptSelectAndRunWidget::bottomRowWidgets()
 {
-    m_runButton = makeToolButton(tr("Run script"), u"play.svg"_s);
-    m_stopButton = makeToolButton(tr("Stop script"), u"stop.svg"_s);
+    m_runButton = makeToolButton(tr("Run script"), u"play.svg"_s, this);
+    m_stopButton = makeToolButton(tr("Stop script"), u"stop.svg"_s, this);
     m_stopButton->setCheckable(true);
-    m_cycleLabel = new QLabel;
+    m_cycleLabel = new QLabel(this);
     m_cycleLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     addDependentWidget(m_runButton);
     addDependentWidget(m_stopButton);

@@ -20,7 +20,7 @@ public:
     void setRunning(bool running);
 
 protected:
-    QList<QWidget *> topRowWidgets() override;
+    QList<QWidget *> topRowWidgets(QWidget *row) override;
     QList<QWidget *> bottomRowWidgets() override;
     void scriptChanged() override;
 

@@ -1,6 +1,5 @@
 #include "scripts/widgets/speedscriptviewer.h"
 
-#include "framework/common/apphelper.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/settings/widgets/propertylistcontrol.h"
@@ -68,8 +67,7 @@ void SpeedScriptViewer::createInfoButton()
     m_infoButton->setFlat(true);
     m_infoButton->setFixedSize(InfoButtonSize, InfoButtonSize);
     m_infoButton->setIconSize({InfoButtonSize, InfoButtonSize});
-    m_infoButton->setIcon(
-        MediaHelper::iconColored(AppHelper::findInResources(u"information.svg"_s), u"#159"_s, u"#000"_s));
+    m_infoButton->setIcon(MediaHelper::iconColored(u":/icons/information.svg"_s, u"#159"_s, u"#000"_s));
     m_infoButton->setCursor(Qt::PointingHandCursor);
     m_infoButton->setToolTip(tr("Script editing information"));
     m_infoButton->setAccessibleName(m_infoButton->toolTip());
