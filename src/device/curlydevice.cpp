@@ -147,7 +147,6 @@ void CurlyDevice::connectionTimerHandler()
 
 void CurlyDevice::checkLink()
 {
-    // Newer versions of Qt raise no error for a port that vanished until something is written to it.
     setConnected(m_port.isOpen() && !SerialPorts::hasHungUp(*m_port.port));
     if (!m_port.port)
         return;

@@ -33,10 +33,6 @@ void PortSearch::round(const QString &owner, int pinnedNumber)
     m_connections.clear();
     manager.releaseOwner(owner);
     const std::vector<Probe> greeted = std::exchange(m_probes, {});
-    for (const Probe &probe : greeted) {
-        if (QSerialPort *port = probe.candidate.port; port && SerialPorts::hasHungUp(*port))
-            port->close();
-    }
     const QList<PortInfo> ports = manager.availablePorts(owner);
     for (const PortInfo &info : ports) {
         if (!isTried(info, pinnedNumber))

@@ -1,5 +1,6 @@
 #include "device/serialportmanager.h"
 
+#include "device/hangupwatch.h"
 #include "device/linklog.h"
 
 #include <algorithm>
@@ -73,6 +74,7 @@ QSerialPort *SerialPortManager::acquireListedPort(const PortInfo &info, const QS
     if (std::any_of(m_ports.begin(), m_ports.end(), isHeld))
         return nullptr;
     std::unique_ptr<QSerialPort, CloseAndFree> port(new QSerialPort(info.location));
+    new HangUpWatch(port.get());
     return m_ports.emplace_back(Entry{std::move(port), info.name, QString()}).port.get();
 }
 

@@ -2,6 +2,8 @@
 
 #include "files.h"
 
+#include "device/serialports.h"
+
 #include <QBuffer>
 #include <QSerialPort>
 #include <QSignalSpy>
@@ -25,7 +27,7 @@ public:
     }
 
     void write(const QByteArray &bytes) { m_port.write(bytes); }
-    bool isCut() const { return m_port.error() != QSerialPort::NoError; }
+    bool isCut() const { return SerialPorts::hasHungUp(m_port); }
 
     QStringList messages;
 
@@ -91,9 +93,10 @@ private slots:
         instrument.step();
         QCOMPARE(cuts.size(), 2);
         Host again(options.linkPath);
-        QTRY_COMPARE(again.messages.size(), 1);
+        instrument.step();
+        QTRY_VERIFY(!again.messages.isEmpty());
         // Time went on while nobody could hear of it.
-        QVERIFY(again.messages[0].endsWith(u',' + QString::number(clock + 400, 16).toUpper()));
+        QVERIFY(again.messages.last().endsWith(u',' + QString::number(clock + 600, 16).toUpper()));
     }
 
     void replaySendsTheRecordedFieldsAsTheyAre()

@@ -13,18 +13,19 @@ SystemScheme::SystemScheme(QObject *parent)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this, &SystemScheme::compare);
-#else
-    qGuiApp->installEventFilter(this);
 #endif
+    qGuiApp->installEventFilter(this);
 }
 
 bool SystemScheme::isDark()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-    return QGuiApplication::styleHints()->colorScheme() == Qt::ColorScheme::Dark;
-#else
-    return isDarkPalette(QGuiApplication::palette());
+    // Not every platform tells.
+    const Qt::ColorScheme scheme = QGuiApplication::styleHints()->colorScheme();
+    if (scheme != Qt::ColorScheme::Unknown)
+        return scheme == Qt::ColorScheme::Dark;
 #endif
+    return isDarkPalette(QGuiApplication::palette());
 }
 
 bool SystemScheme::isDarkPalette(const QPalette &palette)
