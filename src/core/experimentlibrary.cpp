@@ -5,8 +5,8 @@
 
 #include "framework/common/fileutilities.h"
 #include "framework/common/platform.h"
+#include "framework/common/texthelper.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -52,6 +52,14 @@ QList<ExperimentEntry> ExperimentLibrary::list() const
                         int(data.items.size()), rat});
     }
     return entries;
+}
+
+QString ExperimentLibrary::newFolder(QDateTime when) const
+{
+    const auto folder = [&] { return m_recordsFolder + TextHelper::DateTimeFileString(when, true) + '/'_L1; };
+    while (QFileInfo::exists(folder()))
+        when = when.addMSecs(1);
+    return folder();
 }
 
 ExperimentLibrary::RenameOutcome ExperimentLibrary::rename(const QString &folder, const QString &newName,

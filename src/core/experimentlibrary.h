@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -40,6 +41,10 @@ public:
     /// twice.
     QStringList folders() const;
     QList<ExperimentEntry> list() const;
+
+    /// Where a recording begun at \a when belongs: its date and time, moved on by milliseconds as long as
+    /// there is a folder of that name, since a clock that is set back shows the same moment twice.
+    QString newFolder(QDateTime when) const;
 
     /// \a folder becomes recordsFolder() + \a newName; \a newFolder, if given, receives it.
     RenameOutcome rename(const QString &folder, const QString &newName, QString *newFolder = nullptr) const;

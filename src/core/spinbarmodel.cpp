@@ -1,12 +1,12 @@
 #include "core/spinbarmodel.h"
 
+#include "core/experimentlibrary.h"
 #include "core/spinbarrecord.h"
 #include "core/spinbarsettings.h"
 #include "detection/spinbardetection.h"
 #include "device/curlyspinbar.h"
 #include "device/devicetypes.h"
 #include "framework/common/fileutilities.h"
-#include "framework/common/texthelper.h"
 
 #include <QDateTime>
 #include <QStandardPaths>
@@ -124,7 +124,7 @@ void SpinbarModel::startRecord(QString path)
     m_device->resetDetection();
     const QDateTime now = QDateTime::currentDateTime();
     if (path.isEmpty())
-        path = recordsFolder() + TextHelper::DateTimeFileString(now, true) + '/'_L1;
+        path = ExperimentLibrary(recordsFolder()).newFolder(now);
     FileUtilities::createIfNotExists(path);
     if (!m_updateTimer) {
         m_updateTimer = new QTimer(this);

@@ -108,6 +108,20 @@ private slots:
         QCOMPARE(QDir(m_root->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), {u"Records"_s});
     }
 
+    void aMomentThatComesTwiceHasTwoFolders()
+    {
+        const ExperimentLibrary library(m_records);
+        const QDateTime moment(QDate(2024, 3, 9), QTime(8, 5, 59, 998));
+        QStringList names;
+        for (int i = 0; i < 3; ++i) {
+            const QString folder = library.newFolder(moment);
+            names.append(folder.mid(m_records.size()));
+            writeFile(folder + "status.log"_L1, "");
+        }
+        QCOMPARE(names, QStringList({u"2024.03.09-08.05.59.998/"_s, u"2024.03.09-08.05.59.999/"_s,
+                                     u"2024.03.09-08.06.00.000/"_s}));
+    }
+
     void aDeeperExperimentMovesUpWithItsNewName()
     {
         const ExperimentLibrary library(m_records);

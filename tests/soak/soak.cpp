@@ -1,5 +1,6 @@
 #include "soak/soak.h"
 
+#include "soak/hostclock.h"
 #include "soak/processfigures.h"
 #include "soak/recordingcheck.h"
 
@@ -29,6 +30,8 @@ constexpr int AllowedDescriptors = 4;
 // A virtual machine is halted itself at times, which looks no different from within.
 constexpr int AllowedHoldups = 3;
 constexpr std::size_t FiguresToSettle = 8;
+constexpr std::chrono::milliseconds ClockJumps[] = {-24h, -1h, -30s, -300ms, 300ms, 30s, 1h, 24h};
+constexpr std::chrono::hours FurthestClock = 30 * 24h;
 
 QTextStream &out()
 {
@@ -48,7 +51,9 @@ Soak::Soak(const QString &folder, quint32 seed, QObject *parent)
         return QFile::exists(path) ? QList<PortInfo>{{path, path, {}, {}}} : QList<PortInfo>();
     });
     m_model = std::make_unique<SpinbarModel>(nullptr, folder + u"/data"_s);
+    m_script = std::make_unique<ScriptWatch>(m_model->device(), folder);
     connectModel();
+    connect(m_script.get(), &ScriptWatch::complained, this, &Soak::complain);
     connect(&m_actions, &QTimer::timeout, this, &Soak::act);
     connect(&m_samples, &QTimer::timeout, this, &Soak::sampleFigures);
 }
@@ -56,6 +61,7 @@ Soak::Soak(const QString &folder, quint32 seed, QObject *parent)
 Soak::~Soak()
 {
     mendDisk();
+    m_script.reset();
     m_model.reset();
 }
 
@@ -71,6 +77,8 @@ void Soak::connectModel()
 
 bool Soak::run(std::chrono::milliseconds duration)
 {
+    if (!HostClock::canBeMoved())
+        complain(u"the host's clock can't be moved"_s);
     plugIn();
     m_deadline = QDeadlineTimer(duration);
     m_actions.start(500ms);
@@ -99,6 +107,10 @@ void Soak::act()
 {
     if (!m_simulator.isRunning())
         return plugIn();
+    if (m_random.bounded(10) == 0)
+        moveClock();
+    if (m_random.bounded(20) == 0)
+        m_script->toggle();
     if (m_model->currentRecord())
         return actWhileRecording();
     mendDisk();
@@ -142,10 +154,20 @@ void Soak::startRecording()
 {
     m_received.clear();
     m_diskFailedNow = false;
+    // A clock that was set back comes by the same moment again.
+    const bool sameMoment = m_lastStartMs != 0 && m_random.bounded(4) == 0;
+    if (sameMoment)
+        HostClock::holdAt(m_lastStartMs);
     m_model->startRecord({});
+    if (sameMoment)
+        HostClock::setRight();
     if (!m_model->currentRecord())
         return;
+    m_lastStartMs = m_model->currentRecord()->timestamp();
     m_recordFolder = m_model->currentRecord()->folder();
+    if (m_recordFolders.contains(m_recordFolder))
+        complain(m_recordFolder + u": recorded over"_s);
+    m_recordFolders.insert(m_recordFolder);
     ++m_recordings;
 }
 
@@ -159,6 +181,16 @@ void Soak::finishRecording()
     if (!complaint.isEmpty())
         complain(complaint);
     m_watchdog.forgive();
+}
+
+void Soak::moveClock()
+{
+    ++m_clockJumps;
+    const auto which = std::size_t(m_random.bounded(int(std::size(ClockJumps)) + 1));
+    if (which == std::size(ClockJumps) || std::chrono::abs(HostClock::offset()) > FurthestClock)
+        HostClock::setRight();
+    else
+        HostClock::jump(ClockJumps[which]);
 }
 
 void Soak::breakDisk()
@@ -201,7 +233,8 @@ void Soak::complain(const QString &text)
 bool Soak::report()
 {
     out() << m_messages << " status messages, " << m_recordings << " recordings, " << m_unplugs
-          << " unplugs, " << m_brokenDisks << " times a broken disk\n"
+          << " unplugs, " << m_brokenDisks << " times a broken disk, " << m_clockJumps
+          << " jumps of the clock, " << m_script->commands() << " speeds of the script\n"
           << "Longest hold-up of the event loop: " << m_watchdog.longestMs()
           << " ms, over the limit: " << m_watchdog.holdups() << '\n';
     if (std::size_t(m_residentKiB.size()) > 2 * FiguresToSettle) {
@@ -222,6 +255,8 @@ bool Soak::report()
         complain(u"the event loop was held up"_s);
     if (m_messages == 0 || m_recordings == 0)
         complain(u"nothing was recorded"_s);
+    if (m_script->commands() == 0)
+        complain(u"no script was played"_s);
     out() << (m_complaints == 0 ? "Nothing found" : "FOUND") << Qt::endl;
     return m_complaints == 0;
 }

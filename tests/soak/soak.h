@@ -1,5 +1,6 @@
 #pragma once
 
+#include "soak/scriptwatch.h"
 #include "soak/simulatorprocess.h"
 #include "soak/watchdog.h"
 
@@ -9,6 +10,7 @@
 #include <QDeadlineTimer>
 #include <QObject>
 #include <QRandomGenerator>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -16,7 +18,8 @@
 class CurlySpinbar;
 
 /// Lets the application's model work for hours against simulated instruments at high rate, with faults of
-/// the line, the instrument and the disk at random moments, and checks every recording that ends.
+/// the line, the instrument, the disk and the host's clock at random moments, and checks every recording that
+/// ends.
 class Soak : public QObject
 {
     Q_OBJECT
@@ -37,6 +40,7 @@ private:
     void actWhileRecording();
     void startRecording();
     void finishRecording();
+    void moveClock();
     void breakDisk();
     void mendDisk();
     void sampleFigures();
@@ -47,6 +51,7 @@ private:
     QRandomGenerator m_random;
     std::unique_ptr<SpinbarModel> m_model;
     SimulatorProcess m_simulator;
+    std::unique_ptr<ScriptWatch> m_script;
     Watchdog m_watchdog;
     QTimer m_actions;
     QTimer m_samples;
@@ -56,11 +61,14 @@ private:
     bool m_diskFailedNow = false;
     QString m_recordFolder;
     QByteArrayList m_received;
+    QSet<QString> m_recordFolders;
+    qint64 m_lastStartMs = 0;
 
     qint64 m_messages = 0;
     int m_recordings = 0;
     int m_brokenDisks = 0;
     int m_unplugs = 0;
+    int m_clockJumps = 0;
     int m_complaints = 0;
     QList<qint64> m_residentKiB;
     QList<int> m_descriptors;
