@@ -19,8 +19,8 @@ if(SPINBAR_WERROR)
 endif()
 if(SPINBAR_SANITIZE)
     target_compile_options(spinbar_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-    target_link_options(spinbar_options INTERFACE -fsanitize=address,undefined)
+        -fsanitize=${SPINBAR_SANITIZE} -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(spinbar_options INTERFACE -fsanitize=${SPINBAR_SANITIZE})
 endif()
 if(SPINBAR_FUZZ)
     target_compile_options(spinbar_options INTERFACE -fsanitize=fuzzer-no-link)
@@ -57,8 +57,8 @@ function(spinbar_test name)
         file(MAKE_DIRECTORY "${home}/${folder}")
     endforeach()
     file(CHMOD "${home}/runtime" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND ${SPINBAR_TEST_LAUNCHER} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 120
+        TIMEOUT ${SPINBAR_TEST_SECONDS}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;LC_ALL=C.UTF-8;HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;XDG_RUNTIME_DIR=${home}/runtime;TMPDIR=${home}/tmp;SPINBAR_SERIAL_PORTS=;${ARG_ENVIRONMENT}")
 endfunction()

@@ -23,6 +23,13 @@ std::unique_ptr<QTemporaryDir> &scratch()
 
 } // namespace
 
+// Freed blocks are kept from use for a while, in as much memory as the caches hold rather than in the usual
+// 256 MB.
+extern "C" const char *__asan_default_options()
+{
+    return "quarantine_size_mb=8:malloc_context_size=8:max_malloc_fill_size=0";
+}
+
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

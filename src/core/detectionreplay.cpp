@@ -88,10 +88,12 @@ std::optional<QList<ExperimentItem>> DetectionReplay::run(const QString &path, c
     const TrailSecondsScope trail(options.trailSeconds);
     Lanes lanes(options);
     bool insideLongLine = false;
-    for (QByteArray line = file.readLine(MaxLineBytes); !line.isEmpty(); line = file.readLine(MaxLineBytes)) {
+    QByteArray buffer(MaxLineBytes, Qt::Uninitialized);
+    for (qint64 got = 0; (got = file.readLine(buffer.data(), buffer.size())) > 0;) {
+        const QByteArrayView line(buffer.constData(), got);
         const bool whole = line.endsWith('\n') || file.atEnd();
         if (whole && !insideLongLine)
-            lanes.take(QString::fromUtf8(line.trimmed().replace(';', ',')));
+            lanes.take(QString::fromUtf8(line.trimmed()).replace(';'_L1, ','_L1));
         insideLongLine = !whole;
     }
     return lanes.finish();

@@ -41,23 +41,26 @@ void WorkProgress::runBeside(const std::function<void(const WorkStep &)> &work)
 {
     std::atomic<int> done = m_done;
     std::atomic<bool> cancelled = m_dialog.wasCanceled();
+    std::atomic<bool> worked = false;
     const std::unique_ptr<QThread> thread(QThread::create([&] {
         work([&] {
             ++done;
             return !cancelled;
         });
+        worked = true;
     }));
-    bool ended = false;
     QTimer wake;
-    QObject::connect(thread.get(), &QThread::finished, &wake, [&ended] { ended = true; });
+    QObject::connect(thread.get(), &QThread::finished, &wake,
+                     [] {}); // does nothing but end a wait for events
     wake.start(LookPeriodMs);
     thread->start();
-    while (!ended) {
+    while (!worked) {
         look(QEventLoop::WaitForMoreEvents);
         m_done = done;
         cancelled = m_dialog.wasCanceled();
     }
     thread->wait();
+    m_done = done;
 }
 
 void WorkProgress::look(QEventLoop::ProcessEventsFlags flags)
