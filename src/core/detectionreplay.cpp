@@ -88,12 +88,12 @@ std::optional<QList<ExperimentItem>> DetectionReplay::run(const QString &path, c
     const TrailSecondsScope trail(options.trailSeconds);
     Lanes lanes(options);
     bool insideLongLine = false;
-    QByteArray buffer(MaxLineBytes, Qt::Uninitialized);
+    QByteArray buffer(MaxLineBytes + 1, Qt::Uninitialized); // the last is for the zero behind a line
     for (qint64 got = 0; (got = file.readLine(buffer.data(), buffer.size())) > 0;) {
         const QByteArrayView line(buffer.constData(), got);
         const bool whole = line.endsWith('\n') || file.atEnd();
         if (whole && !insideLongLine)
-            lanes.take(QString::fromUtf8(line.trimmed()).replace(';'_L1, ','_L1));
+            lanes.take(QString::fromUtf8(line.trimmed()).replace(u';', u','));
         insideLongLine = !whole;
     }
     return lanes.finish();

@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,16 @@ qint64 ProcessFigures::waitedForProcessorMs()
     constexpr qint64 NanosecondsPerMs = 1'000'000;
     // Run time, time waiting on a run queue, time slices.
     return contentOf(u"/proc/self/schedstat"_s).split(' ').value(1).toLongLong() / NanosecondsPerMs;
+}
+
+qint64 ProcessFigures::stolenFromMachineMs()
+{
+    constexpr qint64 MsPerSecond = 1000;
+    constexpr int StolenField =
+        8; // behind the name and the times of user, nice, system, idle, waiting, irq, softirq
+    const QByteArray all = contentOf(u"/proc/stat"_s);
+    return all.left(all.indexOf('\n')).simplified().split(' ').value(StolenField).toLongLong() * MsPerSecond
+           / sysconf(_SC_CLK_TCK);
 }
 
 bool ProcessFigures::limitFileSize(qint64 bytes)

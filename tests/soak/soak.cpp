@@ -83,6 +83,7 @@ bool Soak::run(std::chrono::milliseconds duration)
     m_deadline = QDeadlineTimer(duration);
     m_actions.start(500ms);
     m_samples.start(duration / 60);
+    m_script->toggle();
     m_watchdog.forgive();
     QEventLoop loop;
     QTimer::singleShot(duration, &loop, &QEventLoop::quit);

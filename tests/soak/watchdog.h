@@ -26,6 +26,7 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     qint64 m_waitedMs = 0;
+    qint64 m_stolenMs = 0;
     qint64 m_longestMs = 0;
     int m_holdups = 0;
 };
