@@ -3,7 +3,6 @@
 #include "files.h"
 #include "framework/common/hindrance.h"
 #include "framework/common/workbookreader.h"
-#include "rows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -80,34 +79,28 @@ private slots:
         QCOMPARE(qRound(widths[4].toDouble() - 0.71), 8);
     }
 
-    void sheetNames_data()
-    {
-        const auto row = columns<QStringList, QStringList>("wanted", "names");
-        const QString thirty(30, u'я');
-        row("plain", {u"2024.03.09-07.05.01.042"_s}, {u"2024.03.09-07.05.01.042"_s});
-        row("forbidden signs", {u"[a]:*?/\\b\n"_s}, {u"_a______b_"_s});
-        row("nothing left", {u"a"_s, u""_s, u" ' "_s}, {u"a"_s, u"Sheet2"_s, u"Sheet3"_s});
-        row("reserved", {u"History"_s}, {u"History (2)"_s});
-        row("twice but for case", {u"Сводка"_s, u"сводка"_s, u"СВОДКА"_s},
-            {u"Сводка"_s, u"сводка (2)"_s, u"СВОДКА (3)"_s});
-        row("the mended one is taken", {u"a (2)"_s, u"a"_s, u"A"_s}, {u"a (2)"_s, u"a"_s, u"A (3)"_s});
-        row("long", {thirty + u"abc"_s, thirty + u"abd"_s}, {thirty + u"a"_s, thirty.first(27) + u" (2)"_s});
-        row("no half of a pair", {thirty + u"\U0001F400"_s}, {thirty});
-        row("apostrophes", {u"'Rat's'"_s}, {u"Rat's"_s});
-    }
-
     void sheetNames()
     {
-        QFETCH(QStringList, wanted);
-        QFETCH(QStringList, names);
-        QCOMPARE(XLSXHelper::sheetNames(wanted), names);
-        QList<Sheet> sheets;
-        for (const QString &name : wanted)
-            sheets.append({name, {{1}}});
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"names.xlsx"_s);
-        QVERIFY(XLSXHelper::dataToXLSX(sheets, path));
-        QCOMPARE(attributes(part(path, u"xl/workbook.xml"_s), "sheet"_L1, "name"_L1), names);
+        const auto check = [](const QStringList &wanted, const QStringList &names) {
+            QCOMPARE(XLSXHelper::sheetNames(wanted), names);
+            QList<Sheet> sheets;
+            for (const QString &name : wanted)
+                sheets.append({name, {{1}}});
+            const QTemporaryDir folder;
+            const QString path = folder.filePath(u"names.xlsx"_s);
+            QVERIFY(XLSXHelper::dataToXLSX(sheets, path));
+            QCOMPARE(attributes(part(path, u"xl/workbook.xml"_s), "sheet"_L1, "name"_L1), names);
+        };
+        const QString thirty(30, u'я');
+        check({u"2024.03.09-07.05.01.042"_s}, {u"2024.03.09-07.05.01.042"_s});
+        check({u"[a]:*?/\\b\n"_s}, {u"_a______b_"_s});
+        check({u"a"_s, u""_s, u" ' "_s}, {u"a"_s, u"Sheet2"_s, u"Sheet3"_s});
+        check({u"History"_s}, {u"History (2)"_s}); // it is reserved
+        check({u"Сводка"_s, u"сводка"_s, u"СВОДКА"_s}, {u"Сводка"_s, u"сводка (2)"_s, u"СВОДКА (3)"_s});
+        check({u"a (2)"_s, u"a"_s, u"A"_s}, {u"a (2)"_s, u"a"_s, u"A (3)"_s});
+        check({thirty + u"abc"_s, thirty + u"abd"_s}, {thirty + u"a"_s, thirty.first(27) + u" (2)"_s});
+        check({thirty + u"\U0001F400"_s}, {thirty}); // no half of a pair
+        check({u"'Rat's'"_s}, {u"Rat's"_s});
     }
 
     void failuresLeaveNothingAndKeepWhatWasThere()

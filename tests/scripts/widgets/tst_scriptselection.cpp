@@ -1,3 +1,4 @@
+#include "buttons.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
 #include "device/testline.h"
@@ -22,16 +23,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The button of this accessible name or text.
-QPushButton *button(const QWidget &widget, const QString &name)
-{
-    for (QPushButton *candidate : widget.findChildren<QPushButton *>()) {
-        if (candidate->accessibleName() == name || candidate->text() == name)
-            return candidate;
-    }
-    return nullptr;
-}
 
 /// Lets each step act on the dialog that is open when its turn comes.
 void answer(QObject *context, QList<std::function<void(QWidget *)>> steps)
@@ -70,7 +61,8 @@ private slots:
 
     void rememberedTitleIsSelected()
     {
-        QVERIFY(!button(SpeedScriptSelectAndRunWidget(*m_model, nullptr), u"Run script"_s)->isEnabled());
+        const SpeedScriptSelectAndRunWidget empty(*m_model, nullptr);
+        QVERIFY(!findButton(&empty, u"Run script"_s)->isEnabled());
         addScript(u"alpha"_s);
         addScript(u"beta"_s);
         for (const auto &[remembered, selected] :
@@ -79,12 +71,12 @@ private slots:
             SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
             QCOMPARE(runner.findChild<QComboBox *>()->currentText(), selected);
             QCOMPARE(m_model->settings()->getLastSpeedScript(), selected);
-            QVERIFY(button(runner, u"Run script"_s)->isEnabled());
+            QVERIFY(findButton(&runner, u"Run script"_s)->isEnabled());
         }
         SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
         QVERIFY(QFile::remove(m_model->scriptsFolder() + u"beta.xml"_s));
         runner.findChild<QComboBox *>()->setCurrentIndex(1);
-        QVERIFY(!button(runner, u"Run script"_s)->isEnabled());
+        QVERIFY(!findButton(&runner, u"Run script"_s)->isEnabled());
         QCOMPARE(m_model->settings()->getLastSpeedScript(), u"alpha"_s);
     }
 
@@ -94,10 +86,11 @@ private slots:
         QVERIFY(m_line->waitFor("{irmode=r}"));
         SpeedScriptSelectAndRunWidget runner(*m_model, nullptr);
         runner.show();
-        QPushButton *run = button(runner, u"Run script"_s);
-        QPushButton *stop = button(runner, u"Stop script"_s);
+        QAbstractButton *run = findButton(&runner, u"Run script"_s);
+        QAbstractButton *stop = findButton(&runner, u"Stop script"_s);
         QVERIFY(run->isVisible() && !stop->isVisible());
-        for (const auto end : {&QPushButton::click, &QPushButton::toggle}) { // a screen reader toggles
+        for (const auto end :
+             {&QAbstractButton::click, &QAbstractButton::toggle}) { // a screen reader toggles
             m_line->take();
             run->click();
             QVERIFY(!run->isVisible() && stop->isVisible() && stop->isChecked());
@@ -117,7 +110,7 @@ private slots:
         addScript(u"beta"_s);
         auto runner = std::make_unique<SpeedScriptSelectAndRunWidget>(*m_model, nullptr);
         runner->show();
-        const QPushButton *run = button(*runner, u"Run script"_s);
+        const QAbstractButton *run = findButton(runner.get(), u"Run script"_s);
         runner->setRunning(true);
         runner->findChild<QComboBox *>()->setCurrentIndex(1);
         QVERIFY(run->isVisible());
@@ -140,12 +133,12 @@ private slots:
         runner.show();
         runner.setRunning(true);
         answer(this, {[&](QWidget *dialog) {
-                   QVERIFY(!button(runner, u"Stop script"_s)->isVisible());
+                   QVERIFY(!findButton(&runner, u"Stop script"_s)->isVisible());
                    auto *script = dialog->findChild<SpeedScript *>();
                    script->setLoops(7); // saved by itself
                    qobject_cast<QDialog *>(dialog)->reject();
                }});
-        button(runner, u"Script editor"_s)->click();
+        findButton(&runner, u"Script editor"_s)->click();
         runner.setRunning(true);
         QVERIFY(hasLabel(runner, u"Cycle 1/7"_s));
     }
@@ -170,17 +163,17 @@ private slots:
         };
         answer(this, {give(u" beta "_s), agree, give(u"gamma"_s)});
         editor.findChild<QComboBox *>()->setCurrentText(u"alpha"_s);
-        button(editor, u"Clone script"_s)->click();
+        findButton(&editor, u"Clone script"_s)->click();
         QCOMPARE(seen, QStringList({u"Enter new cloned script title"_s,
                                     u"Script with this title already exists"_s, u"Change script title"_s}));
         // The answer refused is what was to be renamed, and no file of that name gave way.
         QCOMPARE(ScriptLibrary(m_model->scriptsFolder()).titles(), QStringList({u"alpha"_s, u"gamma"_s}));
 
         answer(this, {give(u"delta"_s)});
-        button(editor, u"New script"_s)->click();
+        findButton(&editor, u"New script"_s)->click();
         QCOMPARE(editor.findChild<QComboBox *>()->currentText(), u"delta"_s);
         answer(this, {agree});
-        button(editor, u"Remove script"_s)->click();
+        findButton(&editor, u"Remove script"_s)->click();
         QCOMPARE(editor.findChild<QComboBox *>()->count(), 2);
     }
 
@@ -188,20 +181,20 @@ private slots:
     {
         SpeedScriptEditor editor(*m_model, nullptr);
         editor.show();
-        auto *offer = button(editor, u"Add sample scripts"_s);
+        auto *offer = findButton(&editor, u"Add sample scripts"_s);
         QVERIFY(offer && offer->isVisible());
         offer->click();
         QVERIFY(!offer->isVisible());
         const auto *combo = editor.findChild<QComboBox *>();
         QVERIFY(combo->isEnabled() && combo->count() > 1);
-        QVERIFY(button(editor, u"Rename script"_s)->isEnabled());
+        QVERIFY(findButton(&editor, u"Rename script"_s)->isEnabled());
 
         const ScriptLibrary library(m_model->scriptsFolder());
         for (const QString &title : library.titles().mid(1))
             QCOMPARE(library.remove(title), ScriptLibrary::Outcome::Done);
         editor.reloadList({});
         answer(this, {[](QWidget *box) { box->findChild<QPushButton *>()->click(); }});
-        button(editor, u"Remove script"_s)->click();
+        findButton(&editor, u"Remove script"_s)->click();
         QVERIFY(!combo->isEnabled() && offer->isVisible());
     }
 

@@ -2,13 +2,14 @@
 #include "scripts/speedscript.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
+#include "buttons.h"
+
 #include <QDialog>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <cmath>
 #include <memory>
@@ -158,10 +159,9 @@ private slots:
         auto *button = m_viewer->findChild<QPushButton *>({}, Qt::FindDirectChildrenOnly);
         QCOMPARE(button->geometry(), QRect(700 - 32, 8, 24, 24));
         QString text;
-        QTimer::singleShot(0, this, [&text] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            text = dialog->findChild<QLabel *>()->text();
-            dialog->reject();
+        onNext<QDialog>(this, [&text](QDialog &dialog) {
+            text = dialog.findChild<QLabel *>()->text();
+            dialog.reject();
         });
         button->click();
         QVERIFY(text.contains(u"'ALT'"_s));

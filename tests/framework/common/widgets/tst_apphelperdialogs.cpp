@@ -1,5 +1,6 @@
 #include "framework/common/widgets/apphelperdialogs.h"
 
+#include "buttons.h"
 #include "files.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
 
 #include <cstring>
@@ -21,36 +21,31 @@ namespace {
 
 constexpr auto SleepArgument = "--sleep";
 
-/// What the operator saw, and the button that was pressed, or Escape for an empty one.
-struct Answer
+/// What the operator saw.
+struct Box
 {
-    QString press;
     QString text;
     QStringList buttons;
     bool onTop = false;
-
-    void give()
-    {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box) {
-            QTimer::singleShot(0, qApp, [this] { give(); });
-            return;
-        }
-        text = box->text();
-        onTop = box->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-        QPushButton *chosen = nullptr;
-        const auto all = box->findChildren<QPushButton *>();
-        for (QPushButton *button : all) {
-            buttons << button->text() + (button->isDefault() ? "*"_L1 : ""_L1);
-            chosen = button->text() == press ? button : chosen;
-        }
-        buttons.sort();
-        if (chosen)
-            QTest::mouseClick(chosen, Qt::LeftButton);
-        else
-            QTest::keyClick(box, Qt::Key_Escape);
-    }
 };
+
+/// Presses that button of the next box, or Escape if that is empty.
+std::shared_ptr<Box> press(const QString &button)
+{
+    auto seen = std::make_shared<Box>();
+    onNext<QMessageBox>(qApp, [seen, button](QMessageBox &box) {
+        seen->text = box.text();
+        seen->onTop = box.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        for (const auto *other : box.findChildren<QPushButton *>())
+            seen->buttons << other->text() + (other->isDefault() ? "*"_L1 : ""_L1);
+        seen->buttons.sort();
+        if (button.isEmpty())
+            QTest::keyClick(&box, Qt::Key_Escape);
+        else
+            QTest::mouseClick(findButton(&box, button), Qt::LeftButton);
+    });
+    return seen;
+}
 
 } // namespace
 
@@ -64,18 +59,15 @@ public Q_SLOTS:
 private Q_SLOTS:
     void answersAreTheButtonPressed()
     {
-        const auto check = [](bool withCancel, const QStringList &captions, const QString &press, int result,
-                              const QString &buttons) {
-            Answer answer;
-            answer.press = press;
-            QTimer::singleShot(0, qApp, [&] { answer.give(); });
+        const auto check = [](bool withCancel, const QStringList &captions, const QString &pressed,
+                              int result, const QString &buttons) {
+            const auto seen = press(pressed);
             const auto icon = QMessageBox::Question;
             QCOMPARE(withCancel ? AppHelper::confirmDialogWithCancel(u"T"_s, u"Q?"_s, icon, captions)
                                 : int(AppHelper::confirmDialog(u"T"_s, u"Q?"_s, icon, captions)),
                      result);
-            QCOMPARE(answer.buttons.join(' '_L1), buttons);
-            QCOMPARE(answer.text, u"Q?"_s);
-            QVERIFY(answer.onTop);
+            QCOMPARE(seen->buttons.join(' '_L1), buttons);
+            QVERIFY(seen->text == "Q?"_L1 && seen->onTop);
         };
         check(false, {}, u"Yes"_s, 1, u"No Yes*"_s);
         check(false, {}, u"No"_s, 0, u"No Yes*"_s);
@@ -94,11 +86,9 @@ private Q_SLOTS:
         QProcess predecessor;
         predecessor.start(program, {QLatin1StringView(SleepArgument)});
         QVERIFY(predecessor.waitForStarted());
-        Answer answer;
-        answer.press = u"OK"_s;
-        QTimer::singleShot(0, qApp, [&] { answer.give(); });
+        const auto seen = press(u"OK"_s);
         QVERIFY(AppHelper::checkAndCloseIfAppsRunning({u"spinbar-still-here"_s}, 0));
-        QCOMPARE(answer.text, u"Cannot start because this app is already running:\nspinbar-still-here.exe"_s);
+        QCOMPARE(seen->text, u"Cannot start because this app is already running:\nspinbar-still-here.exe"_s);
         predecessor.kill();
         QVERIFY(predecessor.waitForFinished());
         QVERIFY(!AppHelper::checkAndCloseIfAppsRunning({u"spinbar-still-here"_s}, 0));

@@ -44,25 +44,21 @@ private slots:
     {
         QWidget host;
         auto *outer = new QVBoxLayout(&host);
-        auto *inner = new QHBoxLayout;
+        const QPointer<QHBoxLayout> inner = new QHBoxLayout;
+        const QList<QPointer<QWidget>> widgets{new QLabel(u"x"_s), new QLabel(u"y"_s)};
         outer->addLayout(inner);
         outer->addSpacing(3);
-        QList<QPointer<QWidget>> widgets;
-        for (QBoxLayout *layout : {static_cast<QBoxLayout *>(outer), static_cast<QBoxLayout *>(inner)}) {
-            widgets.append(new QLabel(u"x"_s));
-            layout->addWidget(widgets.last());
-        }
-        const QPointer<QHBoxLayout> watched(inner);
+        outer->addWidget(widgets.at(0));
+        inner->addWidget(widgets.at(1));
         UIHelper::ClearLayout(outer, false);
-        QCOMPARE(outer->count(), 0);
-        QVERIFY(!watched);
+        QVERIFY(outer->isEmpty() && !inner);
         QVERIFY(host.findChildren<QWidget *>().isEmpty());
         QTRY_VERIFY(!widgets.at(0) && !widgets.at(1));
         QCOMPARE(host.layout(), outer);
 
         auto *child = new QLabel(u"new"_s);
         UIHelper::InsertToWidget(&host, child, 7, Qt::AlignRight);
-        auto *grid = qobject_cast<QGridLayout *>(host.layout());
+        const auto *grid = qobject_cast<QGridLayout *>(host.layout());
         QVERIFY(grid);
         QCOMPARE(grid->contentsMargins(), QMargins(7, 7, 7, 7));
         QCOMPARE(grid->itemAtPosition(0, 0)->widget(), child);

@@ -131,9 +131,9 @@ private slots:
         };
         const QStringList common{u"Count"_s, u"Active"_s, u"Delay"_s, u"Drive"_s};
         // The last is sorted by the name that it shows.
-        const QStringList others{u"Animal"_s, u"File"_s, u"Notes"_s, u"Title"_s, u"Level"_s, u"Place"_s,
-                                 u"Serial"_s, u"Span"_s, u"Speed"_s, u"Day"_s,   u"Paint"_s, u"Choice"_s};
-        check(All, {}, common + others, {u"1.Common"_s, u"2.Texts"_s, u"3.Numbers"_s, u"Other"_s}, true);
+        const QStringList others{u"File"_s,  u"Title"_s, u"Animal"_s, u"Day"_s,  u"Level"_s, u"Notes"_s,
+                                 u"Paint"_s, u"Place"_s, u"Serial"_s, u"Span"_s, u"Speed"_s, u"Choice"_s};
+        check(All, {}, common + others, {u"1.Common"_s, u"2.Texts"_s, u"Other"_s}, true);
         check(OneCategory, u"1.Common"_s, common, {}, true);
         check(OneProperty, u"Hidden"_s, {u"Hidden"_s}, {}, false);
         check(OneProperty, u"Nothing"_s, {}, {}, false);
@@ -175,10 +175,9 @@ private slots:
         form.hideItems({u"File"_s});
         form.show();
         QVERIFY(QTest::qWaitForWindowActive(&form));
-        QCOMPARE(walk(form, 14),
-                 (QStringList{u"Active"_s, u"Delay"_s, u"Drive"_s, u"Animal"_s, u"Notes"_s, u"Title"_s,
-                              u"Level"_s, u"Level"_s, u"Place, 1"_s, u"Place, 2"_s, u"Span, 1"_s,
-                              u"Span, 2"_s, u"Speed"_s, u"Day"_s}));
+        QCOMPARE(walk(form, 14), (QStringList{u"Active"_s, u"Delay"_s, u"Drive"_s, u"Title"_s, u"Animal"_s,
+                                              u"Day"_s, u"Level"_s, u"Level"_s, u"Notes"_s, u"Paint"_s,
+                                              u"Place, 1"_s, u"Place, 2"_s, u"Span, 1"_s, u"Span, 2"_s}));
         form.setFocusAt(u"Delay"_s);
         QTRY_COMPARE(QApplication::focusWidget()->accessibleName(), u"Delay"_s);
     }
@@ -273,10 +272,10 @@ private slots:
     {
         PropertyTabWidget form(m_settings.get());
         const QTabBar *bar = form.getTabWidget()->tabBar();
-        QCOMPARE(form.tabCount(), 4);
-        QCOMPARE(bar->tabText(3), u"Other"_s);
-        form.moveTab(u"3.Numbers"_s, 0, true);
-        QCOMPARE(bar->tabData(0).toString(), u"3.Numbers"_s);
+        QCOMPARE(form.tabCount(), 3);
+        QCOMPARE(bar->tabText(2), u"Other"_s);
+        form.moveTab(u"2.Texts"_s, 0, true);
+        QCOMPARE(bar->tabData(0).toString(), u"2.Texts"_s);
     }
 
     void formOutlivesItsSettings()
