@@ -3,8 +3,7 @@
 #include "ui/calibrationbutton.h"
 #include "ui/connectionbar.h"
 #include "ui/gridcontrol.h"
-#include "ui/rodentstatuswidget.h"
-#include "ui/rungraph.h"
+#include "ui/lanearea.h"
 #include "ui/speedcontrol.h"
 
 #include "core/spinbarmodel.h"
@@ -15,7 +14,6 @@
 #include "framework/common/widgets/listcombobox.h"
 #include "framework/common/widgets/mediahelper.h"
 #include "framework/common/widgets/stylehelper.h"
-#include "scripts/widgets/speedscriptviewer.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -35,9 +33,7 @@ constexpr int RodentGap = 8;
 constexpr int CalibrationGap = 2;
 constexpr int SectionGap = 24;
 constexpr int BigButtonHeight = 40;
-constexpr int GraphHeight = 220;
 constexpr int Filling = 100;
-constexpr QMargins LaneMargins{0, 16, 0, 16};
 
 SpinbarController *theController = nullptr;
 
@@ -68,12 +64,10 @@ SpinbarController::SpinbarController(CurlySpinbar *device, QWidget *parent)
     layout->addWidget(m_notConnectedLabel, Filling);
     layout->addWidget(m_laneArea, Filling);
     layOutPanel();
-    createLaneArea();
     connectDevice();
     connectSettings();
     prepare();
     connectRecording();
-    updateInfraRed();
 }
 
 SpinbarController::~SpinbarController()
@@ -95,7 +89,7 @@ void SpinbarController::updateFirmware()
 void SpinbarController::createWidgets()
 {
     m_panel = new QWidget(this);
-    m_laneArea = new QWidget(this);
+    m_laneArea = new LaneArea(m_device, m_settings, this);
     m_notConnectedLabel = new QLabel(tr("Device is not connected"), this);
     m_notConnectedLabel->setStyleSheet(u"font-size: 20px; color: #999"_s);
     m_notConnectedLabel->setAlignment(Qt::AlignCenter);
@@ -138,30 +132,6 @@ void SpinbarController::layOutPanel()
     layout->addWidget(m_stopButton);
 }
 
-void SpinbarController::createLaneArea()
-{
-    m_laneArea->setContentsMargins(0, 0, 0, 0);
-    auto *layout = new QVBoxLayout(m_laneArea);
-    auto *row = new QHBoxLayout;
-    row->setContentsMargins(LaneMargins);
-    m_ratWidgets = createLanes(m_device->ratDetectors());
-    m_mouseWidgets = createLanes(m_device->mouseDetectors());
-    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
-        row->addWidget(lane);
-    layout->addLayout(row, Filling);
-    m_graph = new SpeedScriptViewer(nullptr, false, m_laneArea);
-    m_graph->setFixedHeight(GraphHeight);
-    layout->addWidget(m_graph);
-}
-
-QList<RodentStatusWidget *> SpinbarController::createLanes(const QList<SpinbarDetection *> &lanes)
-{
-    QList<RodentStatusWidget *> widgets;
-    for (SpinbarDetection *lane : lanes)
-        widgets += new RodentStatusWidget(lane, m_laneArea);
-    return widgets;
-}
-
 void SpinbarController::connectDevice()
 {
     // Queued, so that the page never runs inside the device's own signals.
@@ -182,7 +152,7 @@ void SpinbarController::connectSettings()
 {
     connect(m_settings, &SpinbarSettings::changedCalibrationRats, this, &SpinbarController::updateMode);
     connect(m_settings, &SpinbarSettings::changedCalibrationMice, this, &SpinbarController::updateMode);
-    connect(m_settings, &SpinbarSettings::changedShowIR, this, &SpinbarController::updateInfraRed);
+    connect(m_settings, &SpinbarSettings::changedShowIR, m_laneArea, &LaneArea::updateInfraRed);
 }
 
 void SpinbarController::connectRecording()
@@ -236,21 +206,12 @@ void SpinbarController::updateMode()
         const QSignalBlocker blocker(m_rodentBox);
         m_rodentBox->setCurrentIndex(rats ? 0 : 1);
     }
-    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
-        lane->hide();
-    for (RodentStatusWidget *lane : rats ? m_ratWidgets : m_mouseWidgets)
-        lane->show();
+    m_laneArea->updateMode();
     // The text follows the new drum, and the command is repeated.
     m_speed->apply();
     m_settings->setRodentMode(mode);
     m_speed->updateDimension();
     m_calibrationButton->applyCalibration();
-}
-
-void SpinbarController::updateInfraRed()
-{
-    for (RodentStatusWidget *lane : m_ratWidgets + m_mouseWidgets)
-        lane->setInfraRedVisible(m_settings->getShowIR());
 }
 
 void SpinbarController::showRecording(bool recording)
@@ -266,16 +227,11 @@ void SpinbarController::showRecording(bool recording)
     if (focused)
         shown->setFocus();
     m_calibrationButton->setVisible(!recording);
-    m_graph->clearRecord();
+    m_laneArea->clearRecord();
 }
 
 void SpinbarController::refreshGraph()
 {
-    SpinbarRecord *record = m_model->currentRecord();
-    if (!record)
-        return;
-    const RunGraph run = RunGraph::of(*record, m_device->detectors());
-    m_graph->setTimeSpan(run.spanSeconds);
-    m_graph->setLanes(run.laneCount, run.bars);
-    m_graph->setSpeedTrace(record->speeds());
+    if (SpinbarRecord *record = m_model->currentRecord())
+        m_laneArea->showRecord(*record);
 }

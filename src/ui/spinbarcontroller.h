@@ -2,20 +2,17 @@
 
 #include "framework/common/connectionhelper.h"
 
-#include <QList>
 #include <QWidget>
 
 class CalibrationButton;
 class ConnectionBar;
 class CurlySpinbar;
 class GridControl;
+class LaneArea;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class RodentStatusWidget;
 class SpeedControl;
-class SpeedScriptViewer;
-class SpinbarDetection;
 class SpinbarModel;
 class SpinbarSettings;
 
@@ -41,8 +38,6 @@ signals:
 private:
     void createWidgets();
     void layOutPanel();
-    void createLaneArea();
-    QList<RodentStatusWidget *> createLanes(const QList<SpinbarDetection *> &lanes);
     void connectDevice();
     void connectSettings();
     void connectRecording();
@@ -50,15 +45,12 @@ private:
 
     void updateConnection();
     void updateMode();
-    void updateInfraRed();
     void showRecording(bool recording);
     void refreshGraph();
 
     CurlySpinbar *m_device = nullptr;
     SpinbarModel *m_model = nullptr;
     SpinbarSettings *m_settings = nullptr;
-    QList<RodentStatusWidget *> m_ratWidgets;
-    QList<RodentStatusWidget *> m_mouseWidgets;
     ConnectionBar *m_connectionBar = nullptr;
     QComboBox *m_rodentBox = nullptr;
     CalibrationButton *m_calibrationButton = nullptr;
@@ -68,7 +60,6 @@ private:
     QPushButton *m_stopButton = nullptr;
     QLabel *m_notConnectedLabel = nullptr;
     QWidget *m_panel = nullptr;
-    QWidget *m_laneArea = nullptr;
-    SpeedScriptViewer *m_graph = nullptr;
+    LaneArea *m_laneArea = nullptr;
     ConnectionHelper m_connections;
 };

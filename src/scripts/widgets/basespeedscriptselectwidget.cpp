@@ -26,7 +26,7 @@ constexpr int BottomSpacing = 2;
 constexpr int Stretch = 100;
 constexpr int ToolButtonSize = 32;
 constexpr int ToolIconSize = 20;
-constexpr int ShortestTitle = 8; // characters; a longer title must not widen the page
+constexpr int LeastComboWidth = 100; // a long title must not widen the page
 
 } // namespace
 
@@ -83,8 +83,8 @@ QComboBox *BaseSpeedScriptSelectWidget::createCombo(QWidget *parent)
     auto *combo = new ListComboBox(parent);
     combo->setPlaceholderText(tr("Not selected"));
     combo->setAccessibleName(QCoreApplication::translate("Generic", "Script"));
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(ShortestTitle);
+    combo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    combo->setMinimumWidth(LeastComboWidth);
     connect(combo, &QComboBox::currentIndexChanged, this, &BaseSpeedScriptSelectWidget::selectScript);
     return combo;
 }
