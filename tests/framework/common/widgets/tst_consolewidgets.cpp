@@ -124,6 +124,7 @@ private slots:
         const QTemporaryDir folder;
         const QUrl picture = QUrl::fromLocalFile(folder.filePath(u"a.png"_s));
         QImage image(10, 10, QImage::Format_RGB32);
+        image.fill(Qt::red);
         QVERIFY(image.save(picture.toLocalFile()));
         GlobalConsoleWidget widget;
         widget.show();
