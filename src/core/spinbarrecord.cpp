@@ -2,6 +2,7 @@
 
 #include "core/boundedmath.h"
 #include "core/experimentstatistics.h"
+#include "core/gentlegrowth.h"
 #include "core/recordslog.h"
 #include "core/statusline.h"
 
@@ -69,8 +70,11 @@ void SpinbarRecord::addStatus(const QString &line)
         if (m_data.firstDeviceTime == 0)
             m_data.firstDeviceTime = sample->timeMs;
         m_lastDeviceTime = sample->timeMs;
-        if (!m_counters.isEmpty())
+        if (!m_counters.isEmpty()) {
+            growGently(m_speeds);
             m_speeds.append(stepSpeed(sample->counter, m_counters.latest().counter));
+        }
+        m_counters.growGently();
         m_counters.insert(sample->timeMs, sample->counter);
     }
     m_statusLog.append(line);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/gentlegrowth.h"
+
 #include <QtGlobal>
 
 #include <cstddef>
@@ -24,6 +26,8 @@ public:
     /// A repeated time replaces the earlier counter.
     void insert(qint64 timeMs, qint64 counter);
     void reserve(std::size_t count) { m_samples.reserve(count); }
+    /// Ahead of each insert() of a recording.
+    void growGently() { ::growGently(m_samples); }
     void clear();
 
     bool isEmpty() const { return m_samples.empty(); }

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double MinSpanSeconds = 10;
-constexpr double MaxSpanSeconds = 1000;
 constexpr double MsPerSecond = 1000;
 
 constexpr int LabelPadding = 5;

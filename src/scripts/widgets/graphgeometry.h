@@ -14,10 +14,14 @@ class QFontMetrics;
 namespace GraphGeometry {
 
 inline constexpr double TopSpeed = 30;
+inline constexpr double MaxSpanSeconds = 1000;
 inline constexpr double TraceStepSeconds = 0.2;
+/// What is ever drawn of a record. The first point behind a plot is a pixel behind it, and in a plot of one
+/// pixel that is a span.
+inline constexpr qsizetype MaxTraceSamples = qsizetype(2 * MaxSpanSeconds / TraceStepSeconds) + 1;
 inline constexpr int LaneHeight = 20;
 
-/// Seconds across the plot: \a seconds brought into 10 to 1000.
+/// Seconds across the plot: \a seconds brought into 10 to MaxSpanSeconds.
 double boundedSpan(double seconds);
 
 /// What the font asks for.

@@ -154,7 +154,8 @@ void SpeedScriptViewer::setLanes(int count, const QList<ExperimentItem> &bars)
 void SpeedScriptViewer::setSpeedTrace(const QList<double> &speeds)
 {
     // A copy: of a shared list the record would have to make one, with room to spare, at its next sample.
-    m_trace = QList<double>(speeds.cbegin(), speeds.cend());
+    m_trace = QList<double>(speeds.cbegin(),
+                            speeds.cbegin() + std::min(speeds.size(), GraphGeometry::MaxTraceSamples));
     update();
 }
 
