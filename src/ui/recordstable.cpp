@@ -79,6 +79,8 @@ RecordsTable::RecordsTable(QWidget *parent)
 void RecordsTable::fill(const QList<SpinbarRecord *> &records, const QString &selectedPath)
 {
     const QSignalBlocker blocker(this);
+    // Not measured before all is in its place.
+    m_contentWidths.fill(0, ColumnCount);
     clearContents();
     setSortingEnabled(false);
     setRowCount(int(records.size()));
@@ -120,6 +122,8 @@ void RecordsTable::fillRow(int row, const SpinbarRecord &record)
 
 int RecordsTable::sizeHintForColumn(int column) const
 {
+    if (!m_contentWidths.isEmpty())
+        return m_contentWidths.value(column);
     const int content = QTableWidget::sizeHintForColumn(column) + CurrentCellFrame;
     return column == NameColumn ? std::min(content, MostNameWidth) : content;
 }
@@ -130,13 +134,26 @@ void RecordsTable::resizeEvent(QResizeEvent *event)
     fitColumns();
 }
 
-/// Title and comment share what is left, but not below the width of their captions.
 void RecordsTable::fitColumns()
 {
     QHeaderView *header = horizontalHeader();
+    m_contentWidths.clear();
+    QList<int> widths(ColumnCount);
     int room = viewport()->width();
-    for (const Column column : {NameColumn, CountColumn})
-        room -= std::max(sizeHintForColumn(column), header->sectionSizeHint(column));
+    for (const Column column : {NameColumn, CountColumn}) {
+        widths[column] = sizeHintForColumn(column);
+        room -= std::max(widths[column], header->sectionSizeHint(column));
+    }
+    // The header asks anew at each change of a mode, and measuring takes longer than reading the files.
+    m_contentWidths = widths;
+    shareRoom(room);
+    m_contentWidths.clear();
+}
+
+/// Title and comment share it, but not below the width of their captions.
+void RecordsTable::shareRoom(int room)
+{
+    QHeaderView *header = horizontalHeader();
     const int title = header->sectionSizeHint(TitleColumn);
     const int comment = header->sectionSizeHint(CommentColumn);
     const bool even = room >= 2 * std::max(title, comment);

@@ -43,4 +43,8 @@ protected:
 private:
     void fillRow(int row, const SpinbarRecord &record);
     void fitColumns();
+    void shareRoom(int room);
+
+    /// What sizeHintForColumn() answers while columns are being fitted; else empty.
+    QList<int> m_contentWidths;
 };
