@@ -55,8 +55,8 @@ QString interval(const ExperimentItem &item)
         const qint64 wholeSeconds = timeMs / 1000;
         return TextHelper::TimeToText(double(wholeSeconds), false);
     };
-    return u"%1 %2-%3 [%4]"_s.arg(rodentMarker(item.rat), clock(item.start), clock(item.end))
-        .arg(qint64(item.index) + 1);
+    return u"%1 %2-%3 [%4]"_s.arg(rodentMarker(item.rat), clock(item.start), clock(item.end),
+                                  QString::number(qint64(item.index) + 1));
 }
 
 Values valuesOf(SpinbarRecord &record, const ExperimentItem &item, qint64 first)
@@ -155,7 +155,10 @@ Table ExperimentStatistics::experimentTable(SpinbarRecord &record, bool brief)
     const qint64 first = record.firstDeviceTime();
     for (const ExperimentItem &item : items) {
         const Values values = valuesOf(record, item, first);
-        QList<QVariant> row{QString::number(table.size()), interval(item)};
+        QList<QVariant> row;
+        row.reserve(TextColumnsOfExperiment + ValueColumns);
+        row.append(QString::number(table.size()));
+        row.append(interval(item));
         appendValues(row, values);
         table.append(row);
         appendSamples(samples, values);

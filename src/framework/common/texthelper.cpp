@@ -13,12 +13,17 @@ constexpr int GeneralFormatDigits = 6;
 constexpr qint64 SecondsPerMinute = 60;
 constexpr qint64 SecondsPerHour = 3600;
 constexpr int MillisecondsPerSecond = 1000;
+constexpr qsizetype UsualTimeLength = 12;
 // Keeps the conversion to an integer defined for any input.
 constexpr double MaxTimeSeconds = 1e12;
 
-QString twoDigits(qint64 value)
+/// Not by a pattern: tables hold thousands of times.
+void appendTwoDigits(QString &text, qint64 value)
 {
-    return u"%1"_s.arg(value, 2, 10, '0'_L1);
+    if (value >= 0 && value <= 9)
+        text.append(u'0').append(QChar(u'0' + int(value)));
+    else
+        text.append(QString::number(value));
 }
 
 } // namespace
@@ -45,8 +50,15 @@ QString TextHelper::TimeToText(double seconds, bool milliseconds)
     seconds = std::clamp(seconds, -MaxTimeSeconds, MaxTimeSeconds);
     const auto whole = static_cast<qint64>(seconds);
     const qint64 hours = whole / SecondsPerHour;
-    QString text =
-        twoDigits(whole % SecondsPerHour / SecondsPerMinute) + ':'_L1 + twoDigits(whole % SecondsPerMinute);
+    QString text;
+    text.reserve(UsualTimeLength);
+    if (hours >= 1) {
+        appendTwoDigits(text, hours);
+        text.append(u':');
+    }
+    appendTwoDigits(text, whole % SecondsPerHour / SecondsPerMinute);
+    text.append(u':');
+    appendTwoDigits(text, whole % SecondsPerMinute);
     if (milliseconds) {
         // Rounded, since 75.001 s is stored as slightly less; never up to a full second.
         const int thousandths =
@@ -54,8 +66,6 @@ QString TextHelper::TimeToText(double seconds, bool milliseconds)
                      MillisecondsPerSecond - 1);
         text += u".%1"_s.arg(thousandths, 3, 10, '0'_L1);
     }
-    if (hours >= 1)
-        text = twoDigits(hours) + ':'_L1 + text;
     return text;
 }
 
