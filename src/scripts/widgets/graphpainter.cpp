@@ -147,22 +147,26 @@ void GraphPainter::drawLanes(int count, const QList<ExperimentItem> &bars)
         m_painter.drawText(rect, Qt::AlignRight | Qt::AlignVCenter, QString::number(lane + 1));
     }
     const QRect lanes(0, 0, scale.width, m_frame.pictureSize.height());
+    const QString sign = generic("#");
+    // No number with its sign is narrower, and to measure each is most of what a bar costs.
+    const int leastWidth = m_painter.fontMetrics().horizontalAdvance(sign);
     int number = 0;
     for (const ExperimentItem &bar : bars) {
         ++number;
         if (bar.index < 0 || bar.index >= count)
             continue; // a damaged row without a lane of this record
-        const QRect rect = GraphGeometry::laneBar(scale, m_frame.metrics, bar.start, bar.end, bar.index);
-        drawBar(rect.intersected(lanes), number);
+        const QRect rect =
+            GraphGeometry::laneBar(scale, m_frame.metrics, bar.start, bar.end, bar.index).intersected(lanes);
+        if (rect.isEmpty())
+            continue;
+        m_painter.fillRect(rect, m_palette.line.brush());
+        if (rect.width() >= leastWidth)
+            drawBarNumber(rect, sign + QString::number(number));
     }
 }
 
-void GraphPainter::drawBar(const QRect &rect, int number)
+void GraphPainter::drawBarNumber(const QRect &rect, const QString &text)
 {
-    if (rect.isEmpty())
-        return;
-    m_painter.fillRect(rect, m_palette.line.brush());
-    const QString text = generic("#") + QString::number(number);
     // A number that is cut off could be taken for another one.
     if (m_painter.fontMetrics().horizontalAdvance(text) > rect.width())
         return;

@@ -74,7 +74,7 @@ private:
     QRect area() const { return {0, 0, m_frame.scale.width, m_frame.scale.height}; }
     void drawTicks();
     void drawMarkerLabel(const ScriptCurve::Marker &marker);
-    void drawBar(const QRect &rect, int number);
+    void drawBarNumber(const QRect &rect, const QString &text);
     void fillBelow(const QList<QPoint> &line, const QColor &color);
 
     QPainter &m_painter;
