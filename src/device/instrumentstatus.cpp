@@ -1,8 +1,12 @@
 #include "device/instrumentstatus.h"
 
+#include <QVarLengthArray>
+
 namespace {
 
 constexpr int Base = 16;
+// With room to spare.
+constexpr qsizetype UsualFields = 16;
 constexpr qsizetype MinFields = 5;
 constexpr qsizetype MinFieldsWithReadings = 9;
 constexpr qsizetype PowerField = 1;
@@ -22,7 +26,9 @@ void readNumber(QStringView field, qint64 &value)
 
 InstrumentStatus::Update InstrumentStatus::apply(const QString &message, bool mice)
 {
-    const QList<QStringView> fields = QStringView(message).split(u',');
+    QVarLengthArray<QStringView, UsualFields> fields;
+    for (const QStringView field : QStringView(message).tokenize(u','))
+        fields.append(field);
     const qsizetype count = fields.size();
     Update update;
     if (count < MinFields)
