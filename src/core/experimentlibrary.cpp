@@ -93,8 +93,8 @@ bool ExperimentLibrary::remove(const QString &folder) const
     QString reason;
     if (!holds(folder))
         reason = u"not under the records folder"_s;
-    else if (!Platform::hasTrash())
-        reason = u"there is no trash"_s;
+    else if (!Platform::hasTrashFor(path))
+        reason = u"no trash takes it"_s;
     else if (!file.moveToTrash())
         reason = file.errorString();
     else if (QFileInfo::exists(path))

@@ -137,7 +137,7 @@ ScriptLibrary::Outcome ScriptLibrary::rename(const QString &from, const QString 
 ScriptLibrary::Outcome ScriptLibrary::remove(const QString &title) const
 {
     const QString file = findFile(title);
-    const bool removed = !file.isEmpty() && Platform::hasTrash() && QFile::moveToTrash(file);
+    const bool removed = !file.isEmpty() && Platform::hasTrashFor(file) && QFile::moveToTrash(file);
     return removed ? Outcome::Done : logged(Outcome::CannotRemove, file);
 }
 

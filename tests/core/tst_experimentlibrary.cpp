@@ -1,12 +1,13 @@
 #include "core/experimentlibrary.h"
 #include "core/experimentrecords.h"
 #include "core/spinbarrecord.h"
+#include "files.h"
+#include "rows.h"
 
 #include <QDir>
-#include <QFile>
-#include <QStandardPaths>
+#include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using Outcome = ExperimentLibrary::RenameOutcome;
@@ -14,11 +15,10 @@ Q_DECLARE_METATYPE(Outcome)
 
 namespace {
 
-void writeFile(const QString &path, const QByteArray &content)
+void write(const QString &path, const QByteArray &content)
 {
     QDir().mkpath(path.first(path.lastIndexOf(u'/')));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    if (!writeFile(path, content))
         qFatal("cannot write");
 }
 
@@ -33,18 +33,18 @@ private slots:
     {
         m_root = std::make_unique<QTemporaryDir>();
         m_records = m_root->filePath(u"Records"_s) + u'/';
-        writeFile(m_records + "b/experiment.json"_L1,
-                  R"({"experiment":{"title":"T","comment":"C","timestamp":5,"items":[
+        write(m_records + "b/experiment.json"_L1,
+              R"({"experiment":{"title":"T","comment":"C","timestamp":5,"items":[
                       {"start":1,"end":2,"rotations":3,"rat":false},{"start":1,"end":1,"rotations":3}]}})");
-        writeFile(m_records + "a/experiment.json"_L1, "broken");
-        writeFile(m_records + "deep/er/other.json"_L1, "{}");
-        writeFile(m_records + "none/status.log"_L1, "");
+        write(m_records + "a/experiment.json"_L1, "broken");
+        write(m_records + "deep/er/other.json"_L1, "{}");
+        write(m_records + "none/status.log"_L1, "");
     }
 
     void everyFolderWithAJsonFileIsListed()
     {
-        writeFile(m_records + "a/copy.JSON"_L1, "{}");
-        writeFile(m_records + ".hidden/experiment.json"_L1, "{}");
+        write(m_records + "a/copy.JSON"_L1, "{}");
+        write(m_records + ".hidden/experiment.json"_L1, "{}");
         QFile::link(m_records, m_records + "deep/circle"_L1);
         const ExperimentLibrary library(m_records);
         const QList<ExperimentEntry> entries = library.list();
@@ -80,18 +80,17 @@ private slots:
 
     void renameHasAnOutcome_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<Outcome>("outcome");
-        QTest::newRow("new") << u"  Крыса \u2116 7 "_s << Outcome::Renamed;
-        QTest::newRow("same but for case") << u" B "_s << Outcome::Unchanged;
-        QTest::newRow("empty") << u"  "_s << Outcome::EmptyName;
-        QTest::newRow("of another, other case") << u"ER"_s << Outcome::NameTaken;
-        QTest::newRow("of a folder that is no experiment") << u"none"_s << Outcome::Failed;
+        const auto row = columns<QString, Outcome>("name", "outcome");
+        row("new", u"  Крыса \u2116 7 "_s, Outcome::Renamed);
+        row("same but for case", u" B "_s, Outcome::Unchanged);
+        row("empty", u"  "_s, Outcome::EmptyName);
+        row("of another, other case", u"ER"_s, Outcome::NameTaken);
+        row("of a folder that is no experiment", u"none"_s, Outcome::Failed);
         for (const char *name : {"..", ".", "../out", "x/y", "x\\y", "/tmp/x", "x:y", "x*", "x?", "<x", "x|y",
                                  "\"x\"", "NUL", "com1.txt", "x.", ".x", "x\ty"})
-            QTest::newRow(name) << QString::fromLatin1(name) << Outcome::Failed;
-        QTest::newRow("null character") << QString(QChar()) + u'x' << Outcome::Failed;
-        QTest::newRow("too long") << QString(300, u'x') << Outcome::Failed;
+            row(name, QString::fromLatin1(name), Outcome::Failed);
+        row("null character", QString(QChar()) + u'x', Outcome::Failed);
+        row("too long", QString(300, u'x'), Outcome::Failed);
     }
 
     void renameHasAnOutcome()
@@ -135,14 +134,44 @@ private slots:
         QVERIFY(library.remove(m_records + "b/"_L1));
         QVERIFY(!QFile::exists(m_records + u'b'));
         QVERIFY(!library.remove(m_records + "b/"_L1));
-        writeFile(m_records + "experiment.json"_L1, "{}");
-        writeFile(m_root->filePath(u"outside/experiment.json"_s), "{}");
+        write(m_records + "experiment.json"_L1, "{}");
+        write(m_root->filePath(u"outside/experiment.json"_s), "{}");
         for (const QString &folder :
              {m_records, m_root->filePath(u"outside/"_s), m_records + "../outside/"_L1}) {
             QVERIFY(!library.remove(folder));
             QVERIFY(QFile::exists(folder + "experiment.json"_L1));
         }
     }
+
+#ifdef Q_OS_LINUX
+    void withoutATrashTheExperimentStays_data()
+    {
+        const auto row = columns<QString, QString, QString>("experiment", "inTheWay", "reason");
+        row("no folder for it", u"b"_s, u"data"_s, u"no trash takes it"_s);
+        row("cannot be made", u"b"_s, u"data/Trash"_s, u"no trash takes it"_s);
+        row("nothing can be put in", u"b"_s, u"data/Trash/files"_s, u"Not a directory"_s);
+        row("no note can be made", u"b"_s, u"data/Trash/info"_s, u"no trash takes it"_s);
+        // The trash keeps a note for each, whose name is longer still.
+        row("too long for the trash", QString(241, u'x'), {}, u"no trash takes it"_s);
+    }
+
+    void withoutATrashTheExperimentStays()
+    {
+        QFETCH(QString, experiment);
+        QFETCH(QString, inTheWay);
+        QFETCH(QString, reason);
+        const QByteArray before = qgetenv("XDG_DATA_HOME");
+        const auto restore = qScopeGuard([&before] { qputenv("XDG_DATA_HOME", before); });
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_root->filePath(u"data"_s)));
+        if (!inTheWay.isEmpty())
+            write(m_root->filePath(inTheWay), {});
+        write(m_records + experiment + "/experiment.json"_L1, "{}");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot move to the trash: .*"_s + reason,
+                                                              QRegularExpression::CaseInsensitiveOption));
+        QVERIFY(!ExperimentLibrary(m_records).remove(m_records + experiment + u'/'));
+        QCOMPARE(contents(m_records + experiment + "/experiment.json"_L1), QByteArray("{}"));
+    }
+#endif
 
 private:
     std::unique_ptr<QTemporaryDir> m_root;

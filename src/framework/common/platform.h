@@ -21,7 +21,7 @@ void startCommandLine(QProcess &process, const QString &line);
 /// The system with its version as its users call it: "Windows 11", "Debian GNU/Linux 12 (bookworm)".
 QString systemTitle();
 
-/// Whether what is moved to the trash finds one, which is made if need be.
-bool hasTrash();
+/// Whether the file or folder at \a path can be moved to the trash, which is made if need be.
+bool hasTrashFor(const QString &path);
 
 } // namespace Platform

@@ -7,8 +7,16 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QSysInfo>
+#include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// What file systems take, without "-0001.trashinfo".
+constexpr qsizetype MaxTrashedNameBytes = 255 - 15;
+
+} // namespace
 
 QStringList Platform::runningImageNames()
 {
@@ -30,13 +38,19 @@ QString Platform::systemTitle()
     return QSysInfo::prettyProductName();
 }
 
-bool Platform::hasTrash()
+bool Platform::hasTrashFor(const QString &path)
 {
     // Whatever can't go to the trash of its own file system goes to this one. If that can't be made, Qt takes
     // the current folder for the trash.
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     const QString trash = data.filePath(u"Trash"_s);
-    return QFileInfo(trash).isDir()
-           || (data.mkpath(u"."_s)
-               && QDir().mkdir(trash, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    if (!QFileInfo(trash).isDir()
+        && !(data.mkpath(u"."_s)
+             && QDir().mkdir(trash, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)))
+        return false;
+    // The trash keeps a note beside what it takes. If that can't be made, as on a full disk, Qt tries
+    // forever.
+    const QString notes = trash + "/info"_L1;
+    return QFile::encodeName(QFileInfo(path).fileName()).size() <= MaxTrashedNameBytes && QDir().mkpath(notes)
+           && QTemporaryFile(notes + "/XXXXXX"_L1).open();
 }

@@ -38,8 +38,9 @@ QString Platform::systemTitle()
     return "Windows "_L1 + QSysInfo::productVersion();
 }
 
-bool Platform::hasTrash()
+bool Platform::hasTrashFor(const QString &path)
 {
+    Q_UNUSED(path)
     // Each drive has its own, and a drive without one refuses.
     return true;
 }
