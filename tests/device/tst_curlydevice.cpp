@@ -1,6 +1,5 @@
 #include "device/curlydevice.h"
 
-#include "device/curlycodec.h"
 #include "testline.h"
 
 #include <QDir>
@@ -11,13 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A device of the text protocol, or of the byte protocol, that writes down what happens to it.
+/// A device of the text protocol that writes down what happens to it.
 class PlainDevice : public CurlyDevice
 {
 public:
-    explicit PlainDevice(bool text = true, int portNumber = -1)
-        : CurlyDevice(nullptr, portNumber)
-        , m_text(text)
+    PlainDevice()
+        : CurlyDevice(nullptr)
     {
         connect(this, &CurlyDevice::connectedChanged, this,
                 [this](bool connected) { log.append(connected ? u"changed on"_s : u"changed off"_s); });
@@ -33,23 +31,11 @@ public:
     QString deviceType() const override { return u"plain"_s; }
     QString newSerialNumber() const override { return {}; }
     QString greetingReply() const override { return u"iam"_s; }
-    bool usesTextProtocol() const override { return m_text; }
-    int parity() const override { return m_text ? QSerialPort::NoParity : QSerialPort::EvenParity; }
-    int baudRate() const override { return m_text ? 115200 : 125000; }
-    QByteArray binaryGreeting() const override { return QByteArray::fromHex("F1000F"); }
-    bool checkBinaryGreeting(const QByteArray &bytes) const override
-    {
-        return CurlyCodec::decodeFrame(bytes).startsWith('\xF1');
-    }
     void onTextMessage(const QString &message) override { log.append(u"message "_s + message); }
-    void onByteMessage(const QByteArray &message) override { log.append(u"%1 bytes"_s.arg(message.size())); }
     void onLinkUp() override { log.append(u"link up"_s); }
     QStringList take() { return std::exchange(log, {}); }
 
     QStringList log;
-
-private:
-    bool m_text;
 };
 
 QSerialPort *heldPort(const TestLine &line)
@@ -62,7 +48,28 @@ qsizetype openDescriptors()
     return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
 }
 
-const QStringList Taken{u"changed on"_s, u"connected"_s, u"link up"_s};
+/// A device and one port, with an instrument at it that answers or keeps silent.
+struct Bench
+{
+    explicit Bench(bool answers = true)
+    {
+        if (answers)
+            line.answers.insert("{whois}", "{iam}");
+        device.start();
+    }
+
+    bool connect()
+    {
+        const bool connected = QTest::qWaitFor([this] { return device.isConnected(); });
+        device.take();
+        line.take();
+        return connected;
+    }
+
+    TestLine line{u"COM1"_s};
+    TestPorts ports{{line.info()}};
+    PlainDevice device;
+};
 
 } // namespace
 
@@ -81,7 +88,7 @@ private slots:
         PlainDevice device;
         device.start();
         QTRY_VERIFY(device.isConnected());
-        QCOMPARE(device.take(), Taken + QStringList{u"port COM7"_s});
+        QCOMPARE(device.take(), QStringList({u"changed on"_s, u"connected"_s, u"link up"_s, u"port COM7"_s}));
         QCOMPARE(device.portName(), u"COM7"_s);
         QCOMPARE(SerialPortManager::instance().availablePortNames(u"UP"_s), QStringList());
         line.terminal.write("{one}{tw");
@@ -92,52 +99,43 @@ private slots:
 
     void firstOfTwoAnswersWins()
     {
-        TestLine silent(u"COM1"_s);
         TestLine first(u"COM2"_s);
         TestLine second(u"COM3"_s);
-        const TestPorts ports({silent.info(), first.info(), second.info()});
+        const TestPorts ports({first.info(), second.info()});
         PlainDevice device;
         device.start();
-        QVERIFY(silent.waitFor("{whois}") && first.waitFor("{whois}") && second.waitFor("{whois}"));
-        const QPointer<QSerialPort> loser = heldPort(second);
+        QVERIFY(first.waitFor("{whois}") && second.waitFor("{whois}"));
         // Both answers stand in the ports when the event loop next looks.
         first.terminal.write("{iam}");
         second.terminal.write("{iam}");
         QTRY_VERIFY(device.isConnected());
-        QVERIFY(device.portName() == u"COM2" || device.portName() == u"COM3");
-        if (device.portName() == u"COM2")
-            QTRY_VERIFY(!loser || !loser->isOpen());
         QCOMPARE(device.take().count(u"connected"_s), 1);
-        QCOMPARE(SerialPortManager::instance().availablePortNames(u"UP"_s).size(), 2);
+        QCOMPARE(SerialPortManager::instance().availablePortNames(u"UP"_s),
+                 QStringList(device.portName() == u"COM2" ? u"COM3"_s : u"COM2"_s));
     }
 
     void answerToTheSecondGreetingInTwoChunksCounts()
     {
-        TestLine line(u"COM1"_s);
-        const TestPorts ports({line.info()});
-        PlainDevice device;
         QElapsedTimer clock;
         clock.start();
-        device.start();
+        Bench bench(false);
+        TestLine &line = bench.line;
         QVERIFY(line.waitFor("{whois}", 2));
         QVERIFY(clock.elapsed() >= 950);
         line.terminal.write("{i");
-        QSerialPort *port = heldPort(line);
-        QSignalSpy chunk(port, &QSerialPort::readyRead);
+        QSignalSpy chunk(heldPort(line), &QSerialPort::readyRead);
         QVERIFY(chunk.wait());
-        QVERIFY(!device.isConnected());
+        QVERIFY(!bench.device.isConnected());
         line.terminal.write("am}");
-        QTRY_VERIFY(device.isConnected());
+        QTRY_VERIFY(bench.device.isConnected());
     }
 
     void silentPortIsGreetedEveryOtherRound()
     {
-        TestLine line(u"COM1"_s);
-        const TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
+        Bench bench(false);
+        TestLine &line = bench.line;
         QVERIFY(line.waitFor("{whois}"));
-        device.connectionTimerHandler();
+        bench.device.connectionTimerHandler();
         // Claimed, still open, and no longer listened to.
         QSerialPort *port = heldPort(line);
         QVERIFY(port->isOpen());
@@ -145,71 +143,22 @@ private slots:
         line.terminal.write("{iam}");
         QTRY_VERIFY(port->bytesAvailable() > 0);
         QCoreApplication::processEvents();
-        QVERIFY(!device.isConnected());
+        QVERIFY(!bench.device.isConnected());
         QCOMPARE(line.received.count("{whois}"), 1);
-        device.connectionTimerHandler();
+        bench.device.connectionTimerHandler();
         QVERIFY(line.waitFor("{whois}", 2));
         line.terminal.write("{iam}");
-        QTRY_VERIFY(device.isConnected());
-    }
-
-    void pinLeavesOneNumber_data()
-    {
-        QTest::addColumn<int>("pin");
-        QTest::addColumn<bool>("tried");
-        QTest::newRow("its own") << 7 << true;
-        QTest::newRow("another") << 8 << false;
-        QTest::newRow("none") << -1 << true;
-    }
-
-    void pinLeavesOneNumber()
-    {
-        QFETCH(int, pin);
-        QFETCH(bool, tried);
-        TestLine line(u"COM7"_s);
-        TestLine bluetooth(u"COM9"_s);
-        const TestPorts ports({line.info(), bluetooth.info(u"Bluetooth"_s)});
-        PlainDevice device(true, pin);
-        device.start();
-        QCOMPARE(heldPort(line)->isOpen(), tried);
-        QVERIFY(!heldPort(bluetooth)->isOpen());
-    }
-
-    void bytesGreetOnceAndTestEachChunkAlone()
-    {
-        TestLine line(u"COM1"_s);
-        const TestPorts ports({line.info({}, u"FTDI"_s)});
-        PlainDevice device(false);
-        device.start();
-        QVERIFY(line.waitFor(QByteArray::fromHex("7BF1000F7D")));
-        QSerialPort *port = heldPort(line);
-        QCOMPARE(port->parity(), QSerialPort::EvenParity);
-        QCOMPARE(port->baudRate(), 125000);
-        for (const char *refused : {"7B", "F17D", "7B7D", "7BF07D"}) {
-            QSignalSpy chunk(port, &QSerialPort::readyRead);
-            line.terminal.write(QByteArray::fromHex(refused));
-            QVERIFY(chunk.wait());
-            QVERIFY2(!device.isConnected(), refused);
-        }
-        line.terminal.write(QByteArray::fromHex("7B5CD17D"));
-        QTRY_VERIFY(device.isConnected());
-        device.take();
-        line.terminal.write("{x}");
-        QTRY_COMPARE(device.log, QStringList{u"0 bytes"_s});
+        QTRY_VERIFY(bench.device.isConnected());
     }
 
     void writesInOrderAndWhole()
     {
-        TestLine line(u"COM1"_s);
-        line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        PlainDevice device;
+        Bench bench;
+        PlainDevice &device = bench.device;
         device.send(u"never"_s);
         QTest::ignoreMessage(QtInfoMsg, "PORT closed COM-UNKNOWN");
         device.writeNow({}, "never", 0, true);
-        device.start();
-        QTRY_VERIFY(device.isConnected());
-        line.take();
+        QVERIFY(bench.connect());
         const QString one(126, u'a');
         const QString pieces(127, u'b');
         device.send(one);
@@ -217,64 +166,65 @@ private slots:
         device.send(QString(128, u'c'));
         device.send(u"end"_s, 10);
         device.exchangeTimerHandler();
-        QVERIFY(line.waitFor("{end}"));
-        QCOMPARE(line.take(), '{' + one.toLatin1() + "}{" + pieces.toLatin1() + "}{end}");
+        QVERIFY(bench.line.waitFor("{end}"));
+        QCOMPARE(bench.line.take(), '{' + one.toLatin1() + "}{" + pieces.toLatin1() + "}{end}");
         QVERIFY(device.isConnected());
         // What is not known yet is asked for at every tick.
         device.connectionTimerHandler();
-        QVERIFY(line.waitFor("{sn}{version}"));
+        QVERIFY(bench.line.waitFor("{sn}{version}"));
     }
 
     void keepAliveFillsTheSilence()
     {
-        TestLine line(u"COM1"_s);
-        line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
-        QTRY_VERIFY(device.isConnected());
+        Bench bench;
+        QVERIFY(bench.connect());
         QElapsedTimer clock;
         clock.start();
-        line.take();
-        device.setPing(u"p"_s, 200, false);
+        bench.device.setPing(u"p"_s, 200, false);
         for (int i = 0; i < 3; ++i) {
-            QVERIFY(line.waitFor("p"));
-            QCOMPARE(line.take(), QByteArray("p"));
+            QVERIFY(bench.line.waitFor("p"));
+            QCOMPARE(bench.line.take(), QByteArray("p"));
         }
         // The first may come at once, the others are a period apart.
         QVERIFY(clock.elapsed() >= 390);
-        device.exchangeTimerHandler();
-        device.send(u"x"_s);
-        device.exchangeTimerHandler();
-        device.exchangeTimerHandler();
-        QVERIFY(line.waitFor("{x}"));
-        QCOMPARE(line.take(), QByteArray("{x}"));
+        bench.device.exchangeTimerHandler();
+        bench.device.send(u"x"_s);
+        bench.device.exchangeTimerHandler();
+        bench.device.exchangeTimerHandler();
+        QVERIFY(bench.line.waitFor("{x}"));
+        QCOMPARE(bench.line.take(), QByteArray("{x}"));
     }
 
     void lostPortEndsTheLink_data()
     {
-        QTest::addColumn<bool>("signalled");
-        QTest::newRow("told by an error") << true;
-        QTest::newRow("found at the tick") << false;
+        QTest::addColumn<QString>("how");
+        for (const char *how : {"error", "silence", "closed by others", "timeout of a wait"})
+            QTest::newRow(how) << QString::fromLatin1(how);
     }
 
     void lostPortEndsTheLink()
     {
-        QFETCH(bool, signalled);
-        TestLine line(u"COM1"_s);
-        line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
-        QTRY_VERIFY(device.isConnected());
-        device.take();
-        const QPointer<QSerialPort> port = heldPort(line);
-        port->blockSignals(!signalled);
-        line.terminal.close();
-        if (signalled)
-            QTRY_VERIFY(!device.isConnected());
-        else
+        QFETCH(QString, how);
+        Bench bench;
+        PlainDevice &device = bench.device;
+        QVERIFY(bench.connect());
+        const QPointer<QSerialPort> port = heldPort(bench.line);
+        port->clearError();
+        QCoreApplication::processEvents();
+        QVERIFY(device.isConnected());
+        if (how == "timeout of a wait"_L1) {
+            QVERIFY(!port->waitForReadyRead(1));
+        } else if (how == "closed by others"_L1) {
+            SerialPortManager::instance().closeAll();
+            QTRY_VERIFY(!port);
             device.connectionTimerHandler();
+        } else {
+            port->blockSignals(how == "silence"_L1);
+            bench.line.terminal.close();
+            if (how == "silence"_L1)
+                device.connectionTimerHandler();
+        }
+        QTRY_VERIFY(!device.isConnected());
         QCOMPARE(device.take(), QStringList({u"changed off"_s, u"disconnected"_s}));
         QTRY_VERIFY(!port);
         QCOMPARE(device.portName(), u"COM1"_s);
@@ -285,23 +235,17 @@ private slots:
         QCOMPARE(device.take(), QStringList());
     }
 
-    void anyErrorEndsTheLinkButNoErrorDoesNot()
+    void whatWasReadOfAPortGivenUpIsDropped()
     {
-        TestLine line(u"COM1"_s);
-        line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
-        QTRY_VERIFY(device.isConnected());
-        QSerialPort *port = heldPort(line);
-        device.take();
-        port->clearError();
+        Bench bench;
+        QVERIFY(bench.connect());
+        // Behind the device's own handler, which is queued.
+        connect(heldPort(bench.line), &QSerialPort::readyRead, this,
+                [&bench] { bench.device.setEnabled(false); });
+        bench.line.terminal.write("{late}");
+        QTRY_VERIFY(!bench.device.isConnected());
         QCoreApplication::processEvents();
-        QVERIFY(device.isConnected());
-        // Harmless by itself: a wait that times out.
-        QVERIFY(!port->waitForReadyRead(1));
-        QTRY_VERIFY(!device.isConnected());
-        QCOMPARE(device.take(), QStringList({u"changed off"_s, u"disconnected"_s}));
+        QCOMPARE(bench.device.take(), QStringList{u"disconnected"_s});
     }
 
     void portThatDidNotOpenIsTriedInTheNextRound()
@@ -320,22 +264,32 @@ private slots:
         QTRY_VERIFY(device.isConnected());
     }
 
+    void unplugWhileSearchingClosesThePortAndNothingElse_data()
+    {
+        QTest::addColumn<bool>("silent");
+        QTest::newRow("told by an error") << false;
+        QTest::newRow("found in the next round") << true;
+    }
+
     void unplugWhileSearchingClosesThePortAndNothingElse()
     {
-        TestLine line(u"COM1"_s);
-        TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
+        QFETCH(bool, silent);
+        Bench bench(false);
+        TestLine &line = bench.line;
         QVERIFY(line.waitFor("{whois}"));
-        QSerialPort *port = heldPort(line);
+        // Looked up for nobody, so that it stays unclaimed.
+        QSerialPort *port = SerialPortManager::instance().acquirePort(line.name, {});
+        port->blockSignals(silent);
         line.terminal.close();
+        if (silent)
+            bench.device.connectionTimerHandler();
         QTRY_VERIFY(!port->isOpen());
-        QCOMPARE(device.take(), QStringList());
+        QCOMPARE(bench.device.take(), QStringList());
         QVERIFY(line.terminal.open());
         line.take();
-        ports.set({line.info()});
-        device.connectionTimerHandler();
-        device.connectionTimerHandler();
+        bench.ports.set({line.info()});
+        bench.device.connectionTimerHandler();
+        bench.device.connectionTimerHandler();
         QVERIFY(line.waitFor("{whois}"));
     }
 
@@ -352,17 +306,13 @@ private slots:
     {
         QFETCH(int, rounds);
         QFETCH(bool, connected);
-        TestLine line(u"COM1"_s);
-        if (connected)
-            line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        PlainDevice device;
-        device.start();
+        Bench bench(connected);
+        PlainDevice &device = bench.device;
         for (int round = 1; round < rounds; ++round)
             device.connectionTimerHandler();
         QTRY_COMPARE(device.isConnected(), connected);
         device.take();
-        const QPointer<QSerialPort> port = heldPort(line);
+        const QPointer<QSerialPort> port = heldPort(bench.line);
         QVERIFY(port->isOpen());
         device.setEnabled(false);
         QVERIFY(!port->isOpen());
@@ -374,7 +324,7 @@ private slots:
             QTest::ignoreMessage(QtInfoMsg, "PORT closed COM1");
         device.exchangeTimerHandler();
         QTRY_VERIFY(!port);
-        QVERIFY(!line.received.contains("stop"));
+        QVERIFY(!bench.line.received.contains("stop"));
     }
 
     void thousandConnectionsLeaveNothingBehind()
@@ -408,22 +358,6 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(openDescriptors(), before);
         initTestCase();
-    }
-
-    void destructionGivesUpThePort()
-    {
-        TestLine line(u"COM1"_s);
-        line.answers.insert("{whois}", "{iam}");
-        const TestPorts ports({line.info()});
-        QPointer<QSerialPort> port;
-        {
-            PlainDevice device;
-            device.start();
-            QTRY_VERIFY(device.isConnected());
-            port = heldPort(line);
-        }
-        QVERIFY(!port || !port->isOpen());
-        QCOMPARE(SerialPortManager::instance().availablePortNames(u"UP"_s), QStringList{u"COM1"_s});
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "detection/spinbardetection.h"
 #include "device/newspinbar.h"
+#include "rows.h"
 #include "testline.h"
 
 #include <QSignalSpy>
@@ -103,45 +104,35 @@ private slots:
         QVERIFY(bench.connect());
         CurlySpinbar &spinbar = *bench.spinbar;
         SpinbarDetection::setTrailSeconds(0);
-        QStringList log;
-        connect(&spinbar, &CurlySpinbar::detectionFinished, this,
-                [&log](qint64 start, qint64 end, double rotations, int index, bool isRat) {
-                    log.append(u"%1 %2 %3 %4 %5"_s.arg(start)
-                                   .arg(end)
-                                   .arg(qRound(rotations))
-                                   .arg(index)
-                                   .arg(int(isRat)));
-                });
-        QSignalSpy rats(&spinbar, &CurlySpinbar::ratsIR);
+        QSignalSpy finished(&spinbar, &CurlySpinbar::detectionFinished);
         QSignalSpy status(&spinbar, &CurlySpinbar::newStatus);
-        const auto feed = [&](int sample, const QByteArray &readings) {
-            const qsizetype seen = status.size();
-            bench.line.terminal.write("{S,1,0,0,0,0," + readings + ',' + QByteArray::number(sample * 370, 16)
-                                      + ',' + QByteArray::number(1000 + sample * 200, 16) + '}');
-            QTRY_COMPARE(status.size(), seen + 1);
-            QCoreApplication::processEvents();
+        int sample = 0;
+        const auto feed = [&](int count, const QByteArray &readings) {
+            for (const int end = sample + count; sample < end; ++sample) {
+                const qsizetype seen = status.size();
+                bench.line.terminal.write("{S,1,0,0,0,0," + readings + ','
+                                          + QByteArray::number(sample * 370, 16) + ','
+                                          + QByteArray::number(1000 + sample * 200, 16) + '}');
+                QTRY_COMPARE(status.size(), seen + 1);
+                QCoreApplication::processEvents();
+            }
         };
-        for (int sample = 0; sample < 3; ++sample)
-            feed(sample, "28,28,14,28");
+        feed(3, "28,28,14,28");
         QVERIFY(spinbar.isPowered());
         QVERIFY(spinbar.detectors().at(2)->isPresent());
-        feed(3, "28,28,28,28");
-        QCOMPARE(rats.size(), 4);
+        feed(1, "28,28,28,28");
+        QCOMPARE(finished.size(), 1);
         // Found at 1400 and dated back by 600; 370 thousandths of the motor are 39 of the drum.
-        QCOMPARE(log, QStringList{u"800 1400 39 2 1"_s});
-        for (int sample = 4; sample < 7; ++sample)
-            feed(sample, "14,28,28,28");
+        QCOMPARE(finished.at(0), QVariantList({800, 1400, 39.0, 2, true}));
+        feed(3, "14,28,28,28");
         spinbar.resetDetection();
         QVERIFY(!spinbar.detectors().first()->isPresent());
         QCOMPARE(spinbar.detectors().size(), 4);
         spinbar.setRodentMode(CurlySpinbarDevice::Mice);
         QCOMPARE(spinbar.detectors().size(), 7);
-        for (int sample = 7; sample < 10; ++sample)
-            feed(sample, "28,28,28,28,28,28,14");
+        feed(3, "28,28,28,28,28,28,14");
         QVERIFY(spinbar.detectors().at(6)->isPresent());
         QVERIFY(!spinbar.ratDetectors().first()->isPresent());
-        spinbar.finishDetection(1, 2, 3, 4, false);
-        QCOMPARE(log.last(), u"1 2 3 4 0"_s);
         SpinbarDetection::setTrailSeconds(3);
     }
 
@@ -199,24 +190,20 @@ private slots:
 
     void speedsConvert_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<int>("isMouse");
-        QTest::addColumn<double>("result");
+        const auto row = columns<double, int, int, int, double>("value", "from", "to", "isMouse", "result");
         constexpr double Pi = 3.141592653589793;
-        QTest::newRow("top speed per minute") << 4.743589743589744 << 0 << 2 << 0 << 30.0;
-        QTest::newRow("drum from motor per second") << 37.0 / 39 << 0 << 1 << 1 << 0.1;
-        QTest::newRow("cm/s to m/s") << 1.0 << 4 << 3 << 0 << 0.01;
-        QTest::newRow("a rat drum of 7 cm") << 1.0 << 1 << 4 << 0 << 7 * Pi;
-        QTest::newRow("a mouse drum of 4 cm") << 1.0 << 1 << 3 << 1 << 0.04 * Pi;
-        QTest::newRow("any mouse flag but zero") << 60.0 << 2 << 3 << -2 << 0.04 * Pi;
-        QTest::newRow("km/h to m/s") << 3.6 << 5 << 3 << 1 << 1.0;
-        QTest::newRow("m/s to km/h") << 1.0 << 3 << 5 << 0 << 3.6;
-        QTest::newRow("cm/s to motor") << 7 * Pi << 4 << 0 << 0 << 370.0 / 39;
-        QTest::newRow("unknown unit is the motor's") << 370.0 / 39 << 7 << 2 << 0 << 60.0;
-        QTest::newRow("to an unknown unit") << 0.1 << 0 << 7 << 0 << 0.1;
-        QTest::newRow("to the same unit") << 0.1 << 9 << 9 << 0 << 0.1;
+        row("top speed per minute", 4.743589743589744, 0, 2, 0, 30.0);
+        row("drum from motor per second", 37.0 / 39, 0, 1, 1, 0.1);
+        row("cm/s to m/s", 1.0, 4, 3, 0, 0.01);
+        row("a rat drum of 7 cm", 1.0, 1, 4, 0, 7 * Pi);
+        row("a mouse drum of 4 cm", 1.0, 1, 3, 1, 0.04 * Pi);
+        row("any mouse flag but zero", 60.0, 2, 3, -2, 0.04 * Pi);
+        row("km/h to m/s", 3.6, 5, 3, 1, 1.0);
+        row("m/s to km/h", 1.0, 3, 5, 0, 3.6);
+        row("cm/s to motor", 7 * Pi, 4, 0, 0, 370.0 / 39);
+        row("unknown unit is the motor's", 370.0 / 39, 7, 2, 0, 60.0);
+        row("to an unknown unit", 0.1, 0, 7, 0, 0.1);
+        row("to the same unit", 0.1, 9, 9, 0, 0.1);
     }
 
     void speedsConvert()

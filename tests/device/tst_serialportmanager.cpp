@@ -1,4 +1,6 @@
 #include "device/serialportmanager.h"
+
+#include "rows.h"
 #include "testline.h"
 
 #include <QPointer>
@@ -22,6 +24,7 @@ private slots:
         QCOMPARE(manager.acquirePort(u"A"_s, u"UP"_s), port);
         QCOMPARE(manager.acquirePort(u"A"_s, u"UP"_s), port);
         QCOMPARE(manager.acquirePort(u"A"_s, u"link"_s), nullptr);
+        QCOMPARE(manager.acquireListedPort({u"A"_s, u"/a"_s, {}, {}}, u"link"_s), nullptr);
         QCOMPARE(manager.availablePortNames(u"link"_s), QStringList{u"B"_s});
         QCOMPARE(manager.availablePortNames(u"UP"_s), QStringList({u"A"_s, u"B"_s}));
         QCOMPARE(manager.acquirePort(u"C"_s, u"UP"_s), nullptr);
@@ -51,16 +54,9 @@ private slots:
         const TestPorts ports({{u"A"_s, u"/a"_s, {}, {}}});
         SerialPortManager &manager = SerialPortManager::instance();
         manager.releasePort(u"A"_s, u"link"_s);
-        QTest::ignoreMessage(QtDebugMsg, "");
-        QTest::ignoreMessage(QtDebugMsg, "");
-        manager.dumpPorts();
-        // Held by nobody: the first call makes it, the second claims it.
-        QSerialPort *port = manager.acquirePort(u"A"_s, u"link"_s);
-        manager.acquirePort(u"A"_s, u"link"_s);
-        QTest::ignoreMessage(QtDebugMsg, "P A link");
-        manager.dumpPorts();
+        const QPointer<QSerialPort> port = manager.acquirePort(u"A"_s, u"link"_s);
         manager.closeAll();
-        QCOMPARE_NE(manager.acquirePort(u"A"_s, u"UP"_s), port);
+        QTRY_VERIFY(!port);
     }
 
     void portsOfTheEnvironmentStandBehindTheSystems()
@@ -117,17 +113,15 @@ private slots:
 
     void filterKeepsCandidates_data()
     {
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("manufacturer");
-        QTest::addColumn<bool>("asText");
-        QTest::addColumn<bool>("asBytes");
-        QTest::newRow("plain") << u"USB-SERIAL CH340"_s << u"wch.cn"_s << true << true;
-        QTest::newRow("FTDI") << u"USB Serial Port"_s << u"FTDI"_s << false << true;
-        QTest::newRow("FTDI only as the whole name") << u"FTDI"_s << u"FTDI Ltd"_s << true << true;
-        QTest::newRow("main board") << u"Последовательный порт (1)"_s << u"FTD"_s << false << false;
-        QTest::newRow("lower case") << u"последовательный порт"_s << QString() << true << true;
-        QTest::newRow("Bluetooth") << u"Standard Serial over Bluetooth link"_s << QString() << false << false;
-        QTest::newRow("bluetooth") << u"bluetooth"_s << QString() << true << true;
+        const auto row =
+            columns<QString, QString, bool, bool>("description", "manufacturer", "asText", "asBytes");
+        row("plain", u"USB-SERIAL CH340"_s, u"wch.cn"_s, true, true);
+        row("FTDI", u"USB Serial Port"_s, u"FTDI"_s, false, true);
+        row("FTDI only as the whole name", u"FTDI"_s, u"FTDI Ltd"_s, true, true);
+        row("main board", u"Последовательный порт (1)"_s, u"FTD"_s, false, false);
+        row("lower case", u"последовательный порт"_s, {}, true, true);
+        row("Bluetooth", u"Standard Serial over Bluetooth link"_s, {}, false, false);
+        row("bluetooth", u"bluetooth"_s, {}, true, true);
     }
 
     void filterKeepsCandidates()
