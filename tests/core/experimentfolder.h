@@ -1,14 +1,30 @@
 #pragma once
 
-#include <QByteArray>
+#include "files.h"
+
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
 #include <QTemporaryDir>
 
 #include <utility>
+
+/// One of 9 fields, as the log has it.
+inline QByteArray statusLine(qint64 time, qint64 counter)
+{
+    return "S;1;0;28;28;28;28;" + QByteArray::number(counter, 16) + ';' + QByteArray::number(time, 16)
+           + "\r\n";
+}
+
+/// A log of so many lines of a steady speed.
+inline QByteArray statusLog(int lines, qint64 firstMs, qint64 counterStep)
+{
+    QByteArray log;
+    for (int line = 0; line < lines; ++line)
+        log += statusLine(firstMs + line * 200, line * counterStep);
+    return log;
+}
 
 /// A folder of one experiment in a temporary place, filled and looked into by hand.
 class ExperimentFolder
@@ -21,16 +37,11 @@ public:
 
     void write(const char *name, const QByteArray &content) const
     {
-        QFile file(path() + QLatin1StringView(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        if (!writeFile(path() + QLatin1StringView(name), content))
             qFatal("cannot write %s", name);
     }
 
-    QByteArray read(const char *name) const
-    {
-        QFile file(path() + QLatin1StringView(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read(const char *name) const { return contents(path() + QLatin1StringView(name)); }
 
     QJsonObject experiment() const
     {
@@ -44,8 +55,7 @@ public:
     {
         QByteArray log;
         for (const auto &[time, counter] : samples)
-            log += "S;1;0;28;28;28;28;" + QByteArray::number(counter, 16) + ';' + QByteArray::number(time, 16)
-                   + "\r\n";
+            log += statusLine(time, counter);
         write("status.log", log);
     }
 

@@ -2,6 +2,7 @@
 
 #include "core/experimentfolder.h"
 #include "framework/common/hindrance.h"
+#include "rows.h"
 
 #include <QJsonArray>
 #include <QTest>
@@ -64,32 +65,24 @@ private slots:
 
     void brokenFilesGiveDefaults_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<bool>("loaded");
-        QTest::addColumn<qint64>("timestamp");
-        QTest::addColumn<QString>("title");
+        const auto row = columns<QByteArray, bool, qint64, QString>("json", "loaded", "timestamp", "title");
         const qint64 reload = Reload.toMSecsSinceEpoch();
         const QByteArray nested = QByteArray(5000, '[') + QByteArray(5000, ']');
-        QTest::newRow("no file") << QByteArray() << false << reload << QString();
-        QTest::newRow("empty") << QByteArray("") << false << reload << QString();
-        QTest::newRow("truncated") << QByteArray(R"({"experiment":{"title":"a","items":[)") << false << reload
-                                   << QString();
-        QTest::newRow("binary") << QByteArray(4096, '\0') << false << reload << QString();
-        QTest::newRow("root array") << QByteArray("[]") << false << reload << QString();
-        QTest::newRow("no object") << QByteArray(R"({"experiment":[1]})") << false << reload << QString();
-        QTest::newRow("nested deep") << QByteArray(R"({"experiment":{"title":"a","items":)") + nested + "}}"
-                                     << false << reload << QString();
-        QTest::newRow("nothing set") << QByteArray(R"({"experiment":{}})") << true << qint64(0) << QString();
-        QTest::newRow("null keeps") << QByteArray(R"({"experiment":{"timestamp":null,"title":null}})") << true
-                                    << reload << QString();
-        QTest::newRow("other types") << QByteArray(R"({"experiment":{"timestamp":"5","title":5,"items":{}}})")
-                                     << true << qint64(0) << QString();
-        QTest::newRow("over 32 MB") << R"({"experiment":{"title":"a"}})" + QByteArray(32 * 1024 * 1024, ' ')
-                                    << false << reload << QString();
-        QTest::newRow("fraction") << QByteArray(R"({"experiment":{"timestamp":5.9,"title":"b"}})") << true
-                                  << qint64(5) << u"b"_s;
-        QTest::newRow("huge") << QByteArray(R"({"experiment":{"timestamp":1e300,"ts":-1e300}})") << true
-                              << std::numeric_limits<qint64>::max() << QString();
+        row("no file", {}, false, reload, {});
+        row("empty", "", false, reload, {});
+        row("truncated", R"({"experiment":{"title":"a","items":[)", false, reload, {});
+        row("binary", QByteArray(4096, '\0'), false, reload, {});
+        row("root array", "[]", false, reload, {});
+        row("no object", R"({"experiment":[1]})", false, reload, {});
+        row("nested deep", R"({"experiment":{"title":"a","items":)" + nested + "}}", false, reload, {});
+        row("nothing set", R"({"experiment":{}})", true, 0, {});
+        row("null keeps", R"({"experiment":{"timestamp":null,"title":null}})", true, reload, {});
+        row("other types", R"({"experiment":{"timestamp":"5","title":5,"items":{}}})", true, 0, {});
+        const QByteArray tooLarge = R"({"experiment":{"title":"a"}})" + QByteArray(32 * 1024 * 1024, ' ');
+        row("over 32 MB", tooLarge, false, reload, {});
+        row("fraction", R"({"experiment":{"timestamp":5.9,"title":"b"}})", true, 5, u"b"_s);
+        constexpr qint64 Highest = std::numeric_limits<qint64>::max();
+        row("huge", R"({"experiment":{"timestamp":1e300,"ts":-1e300}})", true, Highest, {});
     }
 
     void brokenFilesGiveDefaults()
@@ -109,18 +102,17 @@ private slots:
 
     void onlyUsableRowsAreKept_data()
     {
-        QTest::addColumn<QByteArray>("item");
-        QTest::addColumn<int>("kept");
-        QTest::newRow("whole") << QByteArray(R"({"start":0,"end":1,"rotations":0.1})") << 1;
-        QTest::newRow("end is start") << QByteArray(R"({"start":5,"end":5,"rotations":1})") << 0;
-        QTest::newRow("end before start") << QByteArray(R"({"start":5,"end":4,"rotations":1})") << 0;
-        QTest::newRow("no start") << QByteArray(R"({"end":5,"rotations":1})") << 0;
-        QTest::newRow("null start") << QByteArray(R"({"start":null,"end":5,"rotations":1})") << 0;
-        QTest::newRow("no end") << QByteArray(R"({"start":0,"rotations":1})") << 0;
-        QTest::newRow("no rotations") << QByteArray(R"({"start":0,"end":5})") << 0;
-        QTest::newRow("row of a flush") << QByteArray(R"({"start":0,"end":5,"rotations":-1})") << 0;
-        QTest::newRow("no object") << QByteArray(R"(7,"a",[],null)") << 0;
-        QTest::newRow("huge") << QByteArray(R"({"start":1,"end":1e30,"rotations":1e300,"index":1e30})") << 1;
+        const auto row = columns<QByteArray, int>("item", "kept");
+        row("whole", R"({"start":0,"end":1,"rotations":0.1})", 1);
+        row("end is start", R"({"start":5,"end":5,"rotations":1})", 0);
+        row("end before start", R"({"start":5,"end":4,"rotations":1})", 0);
+        row("no start", R"({"end":5,"rotations":1})", 0);
+        row("null start", R"({"start":null,"end":5,"rotations":1})", 0);
+        row("no end", R"({"start":0,"rotations":1})", 0);
+        row("no rotations", R"({"start":0,"end":5})", 0);
+        row("row of a flush", R"({"start":0,"end":5,"rotations":-1})", 0);
+        row("no object", R"(7,"a",[],null)", 0);
+        row("huge", R"({"start":1,"end":1e30,"rotations":1e300,"index":1e30})", 1);
     }
 
     void onlyUsableRowsAreKept()
@@ -159,11 +151,7 @@ private slots:
 
     void logLines_data()
     {
-        QTest::addColumn<QByteArray>("log");
-        QTest::addColumn<QList<qint64>>("timesAndCounters");
-        const auto row = [](const char *name, const QByteArray &log, const QList<qint64> &expected) {
-            QTest::newRow(name) << log << expected;
-        };
+        const auto row = columns<QByteArray, QList<qint64>>("log", "timesAndCounters");
         row("two line ends", "S;0;0;0;0;0;A;64\r\nS;0;0;0;0;0;B;65\n", {100, 10, 101, 11});
         row("seven fields", "0;0;0;0;0;A;64\n", {});
         row("eight empty ones", ";;;;;;;\n;;;;;;A;1", {1, 10});
@@ -231,6 +219,19 @@ private slots:
         record.stop();
         QCOMPARE(record.rawItems().size(), 1);
     }
+
+#ifdef Q_OS_LINUX
+    void aLogThatBreaksOffWhileReadIsTold()
+    {
+        const ExperimentFolder folder;
+        // A file that opens, and gives nothing of its first page.
+        QVERIFY(QFile::link(u"/proc/self/mem"_s, folder.path() + "status.log"_L1));
+        SpinbarRecord record(folder.path(), Reload);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot read all of .*status.log"_s));
+        record.loadStatus(false);
+        QVERIFY(record.counters().isEmpty());
+    }
+#endif
 
 #ifdef Q_OS_UNIX
     void aFullDiskLeavesWholeLines()

@@ -1,4 +1,3 @@
-#include "core/experimentlibrary.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarrecord.h"
 #include "core/spinbarsettings.h"
@@ -6,12 +5,12 @@
 #include "device/curlyspinbar.h"
 #include "device/newspinbar.h"
 #include "device/serialportmanager.h"
+#include "files.h"
 #include "simulator/simulatedinstrument.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -25,12 +24,6 @@ namespace {
 constexpr int FirstReadingField = 3;
 constexpr int DefaultThreshold = 34;
 constexpr int PresenceSamples = 3;
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// The numbers of each line of a log.
 QList<QList<qint64>> fieldsOf(const QByteArray &log)
@@ -68,11 +61,9 @@ private slots:
 
     void foldersStandAndDetectionSecondsFollowTheSettings()
     {
-        QFile settings(m_folder->filePath(u"Settings.xml"_s));
-        QVERIFY(settings.open(QFile::WriteOnly));
-        settings.write("<SpinbarSettings><MinDetectionSeconds>7.5</MinDetectionSeconds>"
-                       "<MaxTrailDetectionSeconds>3.5</MaxTrailDetectionSeconds></SpinbarSettings>");
-        settings.close();
+        QVERIFY(writeFile(m_folder->filePath(u"Settings.xml"_s),
+                          "<SpinbarSettings><MinDetectionSeconds>7.5</MinDetectionSeconds>"
+                          "<MaxTrailDetectionSeconds>3.5</MaxTrailDetectionSeconds></SpinbarSettings>"));
         makeModel();
         QCOMPARE(SpinbarModel::instance(), m_model.get());
         QVERIFY(QDir(m_folder->filePath(u"Records"_s)).exists());
@@ -120,7 +111,7 @@ private slots:
         QCOMPARE(m_events, QStringList({u"started, recording"_s, u"row, recording"_s, u"stopped"_s}));
         QVERIFY(step(1));
 
-        const auto lines = fieldsOf(readFile(path + "/status.log"_L1));
+        const auto lines = fieldsOf(contents(path + "/status.log"_L1));
         QCOMPARE(lines.size(), 8);
         qsizetype covered = 0;
         qsizetype present = 0;
@@ -138,22 +129,6 @@ private slots:
         QCOMPARE(row.rotations, double(last.at(last.size() - 2) - third.at(third.size() - 2)));
         QCOMPARE(row.index, 1);
         QVERIFY(row.rat);
-    }
-
-    void lostLinkIsAnOrdinaryStop()
-    {
-        QVERIFY(connectInstrument("0.4 1 on"));
-        m_model->device()->setMotorSpeed(2);
-        m_model->startRecord({});
-        QVERIFY(step(8));
-        m_instrument.reset();
-        QTRY_COMPARE(m_events, QStringList({u"started, recording"_s, u"row, recording"_s, u"stopped"_s}));
-        QCOMPARE(m_model->currentRecord(), nullptr);
-        const QList<ExperimentEntry> entries = ExperimentLibrary(m_model->recordsFolder()).list();
-        QCOMPARE(entries.size(), 1);
-        QCOMPARE(entries.constFirst().items, 1);
-        m_model->startRecord({});
-        QCOMPARE(m_model->currentRecord(), nullptr);
     }
 
     void durationTicksAndEveryRecordingHasItsFolder()

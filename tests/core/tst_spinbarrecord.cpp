@@ -1,6 +1,7 @@
 #include "core/spinbarrecord.h"
 
 #include "core/experimentfolder.h"
+#include "rows.h"
 
 #include <QJsonArray>
 #include <QRandomGenerator>
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString statusLine(qint64 time, qint64 counter)
+QString liveLine(qint64 time, qint64 counter)
 {
     return u"S,1,0,28,28,28,28,%1,%2"_s.arg(counter, 0, 16).arg(time, 0, 16);
 }
@@ -43,13 +44,13 @@ private slots:
         const ExperimentFolder folder;
         SpinbarRecord record(folder.path(), QDateTime::fromMSecsSinceEpoch(1700000000123));
         QCOMPARE(record.name(), u"Rat 7"_s);
-        record.addStatus(statusLine(1000, 0));
+        record.addStatus(liveLine(1000, 0));
         QVERIFY(!QFile::exists(folder.path() + "status.log"_L1));
 
         record.start();
         QCOMPARE(folder.experiment()["timestamp"_L1].toInteger(), 1700000000123);
         QCOMPARE(folder.experiment()["ts"_L1].toInteger(-1), 0);
-        record.addStatus(statusLine(1000, 100));
+        record.addStatus(liveLine(1000, 100));
         record.addStatus(u"S,1"_s);
         record.addStatus(u"S,zz,0,x,y"_s);
         QCOMPARE(folder.read("status.log"), "S;1;0;28;28;28;28;64;3e8\r\nS;1\r\nS;zz;0;x;y\r\n");
@@ -60,7 +61,7 @@ private slots:
         QCOMPARE(row["start"_L1].toInteger(), 1000);
         QCOMPARE(folder.experiment()["ts"_L1].toInteger(), 1000);
         record.stop();
-        record.addStatus(statusLine(1200, 200));
+        record.addStatus(liveLine(1200, 200));
         QCOMPARE(folder.read("status.log").count('\n'), 3);
     }
 
@@ -70,11 +71,11 @@ private slots:
         SpinbarRecord record(folder.path(), QDateTime::currentDateTime());
         record.start();
         for (const auto &[time, counter] : {std::pair(1000, 0), {1200, 200}, {1400, 100}})
-            record.addStatus(statusLine(time, counter));
+            record.addStatus(liveLine(time, counter));
         QCOMPARE(record.speeds(), QList<double>({speedOf(200), speedOf(-100)}));
         QCOMPARE(record.durationSeconds(), 0.4);
         // The clock jumps back: the step is taken from the latest time, not from the latest line.
-        record.addStatus(statusLine(600, 500));
+        record.addStatus(liveLine(600, 500));
         QCOMPARE(record.speeds().last(), speedOf(400));
         QCOMPARE(record.durationSeconds(), 0.8);
         record.stop();
@@ -125,18 +126,15 @@ private slots:
 
     void speedTakesTheFirstLineWithinTheTolerance_data()
     {
-        QTest::addColumn<qint64>("from");
-        QTest::addColumn<qint64>("to");
-        QTest::addColumn<double>("speed");
-        QTest::newRow("exact") << qint64(1000) << qint64(2000) << 2.0;
-        QTest::newRow("7 ms early and late") << qint64(993) << qint64(2007) << 2.0;
-        QTest::newRow("8 ms early") << qint64(992) << qint64(2000) << 0.0;
-        QTest::newRow("8 ms late") << qint64(1000) << qint64(2008) << 0.0;
-        QTest::newRow("backwards is positive") << qint64(2000) << qint64(1000) << 2.0;
-        QTest::newRow("same line") << qint64(1000) << qint64(1003) << 0.0;
-        QTest::newRow("first match, not the nearest") << qint64(1000) << qint64(3007) << 4.0;
-        QTest::newRow("ends of the range")
-            << std::numeric_limits<qint64>::min() << std::numeric_limits<qint64>::max() << 0.0;
+        const auto row = columns<qint64, qint64, double>("from", "to", "speed");
+        using Limits = std::numeric_limits<qint64>;
+        row("7 ms early and late", 993, 2007, 2.0);
+        row("8 ms early", 992, 2000, 0.0);
+        row("8 ms late", 1000, 2008, 0.0);
+        row("backwards is positive", 2000, 1000, 2.0);
+        row("same line", 1000, 1003, 0.0);
+        row("first match, not the nearest", 1000, 3007, 4.0);
+        row("ends of the range", Limits::min(), Limits::max(), 0.0);
     }
 
     void speedTakesTheFirstLineWithinTheTolerance()
@@ -205,7 +203,7 @@ private slots:
         SpinbarRecord record(folder.path(), QDateTime::currentDateTime());
         record.start();
         QCOMPARE(record.writeError(), QString());
-        record.addStatus(statusLine(1000, 0));
+        record.addStatus(liveLine(1000, 0));
         QVERIFY2(record.writeError().contains("status.log"_L1), qPrintable(record.writeError()));
         record.addItem(1000, 2000, 1, 0, true, {});
         QCOMPARE(folder.experiment()["items"_L1].toArray().size(), 1);

@@ -2,7 +2,7 @@
 
 #include "detection/lanethresholds.h"
 
-#include <QTest>
+#include "rows.h"
 
 #include <limits>
 
@@ -62,6 +62,9 @@ private slots:
     void threeCoveredSamplesMakePresence()
     {
         Lane lane;
+        lane.clock = 200;
+        lane.feed(Covered, 2);
+        lane.feed(Empty, 1);
         lane.feed(Covered, 2, 10);
         QCOMPARE(lane.take(), QStringList());
         QCOMPARE(lane.detection.elapsed(), -1);
@@ -73,18 +76,8 @@ private slots:
         QCOMPARE(lane.detection.rotations(), -1);
         lane.feed(Covered, 1, 25);
         QCOMPARE(lane.detection.rotations(), 25);
-        QCOMPARE(lane.samples, 4);
+        QCOMPARE(lane.samples, 7);
         QCOMPARE(lane.detection.lastValue(), Covered);
-    }
-
-    void anEmptySampleBreaksTheCover()
-    {
-        Lane lane;
-        lane.feed(Covered, 2);
-        lane.feed(Empty, 1);
-        lane.feed(Covered, 2);
-        QCOMPARE(lane.take(), QStringList());
-        QVERIFY(!lane.detection.isPresent());
     }
 
     void fallNeedsTheWholeTrailUncovered()
@@ -113,30 +106,20 @@ private slots:
         QVERIFY(qAbs(lane.log.last().section(u' ', 3, 3).toDouble() - 39.0) < 1e-12);
     }
 
-    void trailComesFromTheProcessWideValue_data()
-    {
-        QTest::addColumn<double>("trail");
-        QTest::addColumn<int>("samples");
-        QTest::newRow("none: the first uncovered sample") << 0.0 << 1;
-        QTest::newRow("fraction of a sample") << 0.3 << 2;
-        QTest::newRow("two seconds") << 2.0 << 10;
-        QTest::newRow("longest") << 100.0 << 500;
-    }
-
     void trailComesFromTheProcessWideValue()
     {
-        QFETCH(double, trail);
-        QFETCH(int, samples);
-        Lane lane;
-        lane.feed(Covered, 3);
-        lane.take();
-        // The change reaches a run under way, and the minimum length has no say.
-        SpinbarDetection::setTrailSeconds(trail);
-        SpinbarDetection::setMinimumSeconds(100);
-        lane.feed(Empty, samples - 1);
-        QCOMPARE(lane.take(), QStringList());
-        lane.feed(Empty, 1);
-        QCOMPARE(lane.take().size(), 1);
+        for (const auto &[trail, samples] : {std::pair{0.0, 1}, {0.3, 2}, {100.0, 500}}) {
+            Lane lane;
+            lane.feed(Covered, 3);
+            lane.take();
+            // The change reaches a run under way, and the minimum length has no say.
+            SpinbarDetection::setTrailSeconds(trail);
+            SpinbarDetection::setMinimumSeconds(100);
+            lane.feed(Empty, samples - 1);
+            QCOMPARE(lane.take(), QStringList());
+            lane.feed(Empty, 1);
+            QCOMPARE(lane.take().size(), 1);
+        }
     }
 
     void highCountOfTheLastRunEndsTheNextAtOnce()
@@ -192,16 +175,12 @@ private slots:
 
     void thresholdsComeFromText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("lanes");
-        QTest::addColumn<QList<int>>("thresholds");
-        QTest::newRow("rats") << u"1;34;49;20"_s << 4 << QList<int>{1, 34, 49, 20};
-        QTest::newRow("what is no threshold is dropped")
-            << u";1;x;2;0;50;3;-4;4;5.5;"_s << 4 << QList<int>{1, 2, 3, 4};
-        QTest::newRow("too few") << u"1;2;3;50"_s << 4 << QList<int>();
-        QTest::newRow("of the other drum") << u"1;2;3;4;5;6;7"_s << 4 << QList<int>();
-        QTest::newRow("mice") << u"1;2;3;4;5;6;7"_s << 7 << QList<int>{1, 2, 3, 4, 5, 6, 7};
-        QTest::newRow("never calibrated") << QString() << 7 << QList<int>();
+        const auto row = columns<QString, int, QList<int>>("text", "lanes", "thresholds");
+        row("what is no threshold is dropped", u";1;x;2;0;50;49;-4;4;5.5;"_s, 4, {1, 2, 49, 4});
+        row("too few", u"1;2;3;50"_s, 4, {});
+        row("of the other drum", u"1;2;3;4;5;6;7"_s, 4, {});
+        row("mice", u"1;2;3;4;5;6;7"_s, 7, {1, 2, 3, 4, 5, 6, 7});
+        row("never calibrated", {}, 7, {});
     }
 
     void thresholdsComeFromText()

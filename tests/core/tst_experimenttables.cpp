@@ -1,9 +1,9 @@
+#include "core/experimentexport.h"
 #include "core/experimentstatistics.h"
 #include "core/spinbarrecord.h"
 
 #include "core/experimentfolder.h"
-
-#include <QTest>
+#include "rows.h"
 
 #include <cmath>
 
@@ -34,25 +34,26 @@ QStringList texts(const QList<QVariant> &row)
 
 bool near(const QList<double> &values, const QList<double> &expected)
 {
-    return std::equal(values.begin(), values.end(), expected.begin(), expected.end(),
-                      [](double a, double b) { return std::abs(a - b) < 1e-12; });
+    return std::equal(values.begin(), values.end(), expected.begin(), expected.end(), [](double a, double b) {
+        return std::isnan(b) ? std::isnan(a) : std::abs(a - b) < 1e-12;
+    });
 }
 
 } // namespace
 
-class TestStatistics : public QObject
+class TestExperimentTables : public QObject
 {
     Q_OBJECT
 
 private slots:
     void sampleStatistics_data()
     {
-        QTest::addColumn<QList<double>>("values");
-        QTest::addColumn<QList<double>>("statistics");
-        QTest::newRow("none") << QList<double>() << QList<double>{0, 0, 0};
-        QTest::newRow("two") << QList<double>{10, 20} << QList<double>{15, 50, std::sqrt(50.0)};
-        QTest::newRow("equal") << QList<double>{3, 3, 3} << QList<double>{3, 0, 0};
-        QTest::newRow("four") << QList<double>{1, 2, 3, 6} << QList<double>{3, 14.0 / 3, std::sqrt(14.0 / 3)};
+        const auto row = columns<QList<double>, QList<double>>("values", "statistics");
+        row("none", {}, {0, 0, 0});
+        row("one", {7}, {7, std::nan(""), std::nan("")});
+        row("two", {10, 20}, {15, 50, std::sqrt(50.0)});
+        row("equal", {3, 3, 3}, {3, 0, 0});
+        row("four", {1, 2, 3, 6}, {3, 14.0 / 3, std::sqrt(14.0 / 3)});
     }
 
     void sampleStatistics()
@@ -64,16 +65,6 @@ private slots:
         double deviation = -1;
         m_d_cko(values, &mean, &dispersion, &deviation);
         QVERIFY(near({mean, dispersion, deviation}, statistics));
-    }
-
-    void oneValueHasNoDispersion()
-    {
-        double mean = 0;
-        double dispersion = 0;
-        double deviation = 0;
-        m_d_cko({7}, &mean, &dispersion, &deviation);
-        QCOMPARE(mean, 7.0);
-        QVERIFY(std::isnan(dispersion) && std::isnan(deviation));
     }
 
     void experimentTable()
@@ -151,7 +142,51 @@ private slots:
         QCOMPARE(table.size(), 8);
         QVERIFY(!mouseRecord.isStatusLoaded());
     }
+
+    void oneRecordIsOneSheetSeveralHaveASummary()
+    {
+        const ExperimentFolder first;
+        const ExperimentFolder second;
+        first.writeLog({{0, 0}, {1000, 1000}, {2000, 2000}});
+        second.writeLog({{0, 0}, {1000, 1000}, {2000, 2000}});
+        SpinbarRecord a(first.path(), {});
+        SpinbarRecord b(second.recordsPath() + "Mouse 8"_L1, {});
+        a.addItem(0, 1000, 1500, 0, true, {});
+        const auto one = ExperimentExport::sheets({&a});
+        QCOMPARE(one.size(), 1);
+        QCOMPARE(one[0].first, u"Rat 7"_s);
+        QCOMPARE(one[0].second, a.experimentTable(false));
+        QCOMPARE(ExperimentExport::suggestedName({&a}), u"Rat 7"_s);
+
+        const auto several = ExperimentExport::sheets({&a, &b});
+        QCOMPARE(several.size(), 3);
+        QCOMPARE(several[0].first, u"Summary"_s);
+        QCOMPARE(several[0].second, SpinbarRecord::summaryTable({&a, &b}, false));
+        QCOMPARE(several[2].first, u"Mouse 8"_s);
+        QCOMPARE(ExperimentExport::suggestedName({&a, &b}), u"Rat 7-Mouse 8"_s);
+    }
+
+    void theFilterAndNotTheSuffixChoosesTheFormat()
+    {
+        using ExperimentExport::Format;
+        QCOMPARE(ExperimentExport::formatOfFilter(u"Данные (*.csv)"_s), Format::Csv);
+        QCOMPARE(ExperimentExport::formatOfFilter(u"Данные (*.xlsx)"_s), Format::Workbook);
+        const ExperimentFolder folder;
+        SpinbarRecord record(folder.path(), {});
+        record.addItem(0, 1000, 1500, 0, true, {});
+        const QString path = folder.recordsPath() + "out.xlsx"_L1;
+        QVERIFY(ExperimentExport::write({&record}, path, Format::Csv));
+        const QByteArrayList lines = contents(path).split('\n');
+        QCOMPARE(lines[0], "\xEF\xBB\xBFRat 7\r");
+        QCOMPARE(lines[1], "Index;Interval;Time, s;Distance, m;Rotations;Avg.speed, m/s;Fall speed, m/s;\r");
+        // Without a log no time stands; the distance is 1.5 turns of 0.07 m of diameter, unrounded.
+        QVERIFY(lines[2].startsWith("1;{R} 00:00-00:00 [1];0;0.32986722862692"));
+        QVERIFY(lines[2].endsWith(";1.5;0;0;\r"));
+        QCOMPARE(lines[4], ";M - average value;0;" + lines[2].split(';')[3] + ";1.5;0;0;\r");
+        QVERIFY(!ExperimentExport::write({}, path, Format::Workbook));
+        QVERIFY(!ExperimentExport::write({&record}, folder.path() + "none/x"_L1, Format::Workbook));
+    }
 };
 
-QTEST_GUILESS_MAIN(TestStatistics)
-#include "tst_statistics.moc"
+QTEST_GUILESS_MAIN(TestExperimentTables)
+#include "tst_experimenttables.moc"
