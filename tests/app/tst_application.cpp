@@ -1,8 +1,8 @@
 #include "core/spinbarrecord.h"
+#include "files.h"
 #include "program.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,13 +74,11 @@ private slots:
 
     void experimentIsRecordedByKeyboard()
     {
-        QFile file(m_folder.filePath(u"scenario"_s));
-        QVERIFY(file.open(QFile::WriteOnly));
-        file.write(scenario());
-        file.close();
+        const QString scenarioPath = m_folder.filePath(u"scenario"_s);
+        QVERIFY(writeFile(scenarioPath, scenario()));
         Program simulator(qEnvironmentVariable("SPINBAR_SIMULATOR"),
                           {u"--link"_s, port(), u"--rate"_s, QString::number(Rate), u"--scenario"_s,
-                           file.fileName(), u"--verbose"_s},
+                           scenarioPath, u"--verbose"_s},
                           m_environment, QProcess::MergedChannels);
         QVERIFY(simulator.waitForText("ready "));
         QStringList command = aloneIfPossible() + QStringList(m_folder.filePath(u"prefix/bin/spinbar"_s));
@@ -180,9 +178,7 @@ private:
         QVERIFY(samples.back().timeMs >= rows.constLast().end);
         for (std::size_t i = 1; i < samples.size(); ++i)
             QCOMPARE(samples[i].timeMs - samples[i - 1].timeMs, qint64(SpinbarRecord::StatusPeriodMs));
-        QFile log(folder + "status.log"_L1);
-        QVERIFY(log.open(QFile::ReadOnly));
-        const QByteArray bytes = log.readAll();
+        const QByteArray bytes = contents(folder + "status.log"_L1);
         QVERIFY(bytes.endsWith("\r\n"));
         QCOMPARE(std::size_t(bytes.count('\n')), samples.size());
     }

@@ -1,10 +1,11 @@
 #include "app/servicetools.h"
 
-#include "service/widgets/spinbarwriterwidget.h"
+#include "rows.h"
 #include "ui/operatorbench.h"
 
 #include <QDialog>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -12,30 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::chrono::milliseconds ShortDelay{100};
-
-/// Does \a act to the dialog that comes up, and closes it.
-void whenOpened(QObject *context, const std::function<void(QDialog &)> &act)
-{
-    auto *poll = new QTimer(context);
-    QObject::connect(poll, &QTimer::timeout, context, [poll, act] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        poll->deleteLater();
-        act(*dialog);
-        dialog->close();
-    });
-    constexpr int PollMs = 20;
-    poll->start(PollMs);
-}
-
-void click(const QWidget &dialog, const QString &text)
-{
-    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
-        if (button->text() == text)
-            button->click();
-    }
-}
 
 } // namespace
 
@@ -46,11 +23,10 @@ class TestServiceTools : public QObject
 private slots:
     void linkIsBackAfterTheDeviceWriter_data()
     {
-        QTest::addColumn<QStringList>("clicks");
-        QTest::addColumn<bool>("unplug");
-        QTest::newRow("closed while reading") << QStringList{u"Read"_s} << false;
-        QTest::newRow("port left open and claimed") << QStringList{u"Flash"_s, u"Flash"_s} << false;
-        QTest::newRow("unplugged while reading") << QStringList{u"Read"_s} << true;
+        const auto row = columns<QStringList, bool>("clicks", "unplug");
+        row("closed while reading", {u"Read"_s}, false);
+        row("port left open and claimed", {u"Flash"_s, u"Flash"_s}, false);
+        row("unplugged while reading", {u"Read"_s}, true);
     }
 
     void linkIsBackAfterTheDeviceWriter()
@@ -61,13 +37,14 @@ private slots:
         const ServiceTools tools(bench.model.get(), bench.window.get(), ShortDelay);
         QVERIFY(bench.plugIn());
         int opened = 0;
-        whenOpened(bench.window.get(), [&](QDialog &dialog) {
+        onNext<QDialog>(bench.window.get(), [&](QDialog &dialog) {
+            const auto close = qScopeGuard([&dialog] { dialog.close(); });
             ++opened;
             QVERIFY(!bench.model->isDeviceActive());
             bench.commands.clear();
             dialog.findChild<QLineEdit *>()->setText(u"B42611101"_s);
             for (const QString &text : clicks)
-                click(dialog, text);
+                findButton(&dialog, text)->click();
             QTRY_VERIFY(!bench.commands.isEmpty());
             if (unplug)
                 bench.instrument.reset();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QByteArray>
-#include <QFile>
+#include "files.h"
+
 #include <QList>
 
 #include <zip.h>
@@ -51,18 +51,11 @@ inline QByteArray archive(const QList<Entry> &entries)
 /// A bundle whose tool is ours and behaves as \a behaviour says, see testtool.cpp.
 inline QByteArray bundle(const QByteArray &behaviour)
 {
-    QFile tool(QStringLiteral(SPINBAR_TEST_TOOL));
-    [[maybe_unused]] const bool opened = tool.open(QIODevice::ReadOnly);
+    const QByteArray tool = contents(QStringLiteral(SPINBAR_TEST_TOOL));
     const QByteArray suffix = QByteArray(SPINBAR_TEST_TOOL).endsWith(".exe") ? ".exe" : "";
-    return archive({{"avrdude" + suffix, behaviour == "no program" ? "no program" : tool.readAll()},
+    return archive({{"avrdude" + suffix, behaviour == "no program" ? "no program" : tool},
                     {"avrdude.conf", behaviour},
                     {"spinbar.hex", ":00000001FF\n"}});
-}
-
-inline bool write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 } // namespace BundleMaker

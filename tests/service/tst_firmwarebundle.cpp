@@ -1,10 +1,10 @@
 #include "service/firmwarebundle.h"
 
 #include "bundlemaker.h"
+#include "rows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -71,37 +71,33 @@ private slots:
 
     void findsTheFiles_data()
     {
-        QTest::addColumn<QByteArray>("archive");
-        QTest::addColumn<QString>("hex");
+        const auto row = columns<QByteArray, QString>("archive", "hex");
         const QByteArray dos = QByteArray::fromHex("8fe0aee8a8a2aaa0"); // in the code page 866
-        const auto rowFor = [](const char *name, const Entry &hex, const QString &expected) {
-            QTest::newRow(name) << BundleMaker::archive({{"a.conf", "2"}, hex, {"sub/", {}}, {"sub/x", "3"}})
-                                << expected;
+        const auto rowFor = [&row](const char *name, const Entry &hex, const QString &expected) {
+            row(name, BundleMaker::archive({{"a.conf", "2"}, hex, {"sub/", {}}, {"sub/x", "3"}}), expected);
         };
         rowFor("plain", {"a.hex", "1"}, u"a.hex"_s);
         rowFor("needless path parts", {".//a.hex", "1"}, u"a.hex"_s);
         rowFor("a read-only file", {"a.hex", "1", 0100444}, u"a.hex"_s);
         rowFor("Cyrillic, marked", {"Прошивка 1.hex", "1", 0, true}, u"Прошивка 1.hex"_s);
         rowFor("Cyrillic from DOS", {dos + ".hex", "1"}, u"Прошивка.hex"_s);
-        QTest::newRow("Cyrillic, not marked")
-            << unmarked(BundleMaker::archive({{"Прошивка.hex", "1", 0, true}, {"a.conf", "2"}}))
-            << u"Прошивка.hex"_s;
-        QTest::newRow("two images") << BundleMaker::archive(withFiles({{"b.hex", "3"}})) << u"a.hex"_s;
+        row("Cyrillic, not marked",
+            unmarked(BundleMaker::archive({{"Прошивка.hex", "1", 0, true}, {"a.conf", "2"}})),
+            u"Прошивка.hex"_s);
+        row("two images", BundleMaker::archive(withFiles({{"b.hex", "3"}})), u"a.hex"_s);
     }
 
     void findsTheFiles()
     {
         QFETCH(QByteArray, archive);
         QFETCH(QString, hex);
-        QVERIFY(BundleMaker::write(u"b.bfw"_s, archive));
+        QVERIFY(writeFile(u"b.bfw"_s, archive));
         FirmwareBundle bundle({FirmwareTarget::Kind::Avr, u"avrdude"_s});
         QVERIFY(bundle.open(u"b.bfw"_s));
         QCOMPARE(bundle.problem(), QString());
         QVERIFY(bundle.isValid());
         QCOMPARE(bundle.files().value(u"hex"_s), bundle.folder() + u'/' + hex);
-        QFile file(bundle.files().value(u"hex"_s));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("1"));
+        QCOMPARE(contents(bundle.files().value(u"hex"_s)), QByteArray("1"));
         bundle.clear();
         QVERIFY(!bundle.isValid());
         QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"b.bfw"_s));
@@ -109,12 +105,12 @@ private slots:
 
     void refuses_data()
     {
-        QTest::addColumn<QByteArray>("archive");
-        QTest::addColumn<QString>("problem");
+        const auto row = columns<QByteArray, QString>("archive", "problem");
         const QByteArray good = BundleMaker::archive(withFiles({}));
         const QString forbidden = u"entry that is not allowed"_s;
+        const QString noConf = u"Missing in the bundle: .conf"_s;
         const auto rowFor = [&](const char *name, const Entry &entry) {
-            QTest::newRow(name) << BundleMaker::archive(withFiles({entry})) << forbidden;
+            row(name, BundleMaker::archive(withFiles({entry})), forbidden);
         };
         rowFor("parent", {"../evil", "x"});
         rowFor("parent further in", {"sub/../../evil", "x"});
@@ -128,33 +124,28 @@ private slots:
         rowFor("link", {"link", "../../..", Link});
         rowFor("pipe", {"pipe", "", Pipe});
         rowFor("twice but for case", {"A.HEX", "x"});
-        QTest::newRow("twice") << BundleMaker::archive(withFiles({{"b.hex", "3"}})).replace("b.hex", "a.hex")
-                               << forbidden;
-        QTest::newRow("a thousand files") << thousandFiles() << u"more than 1000 entries"_s;
+        row("twice", BundleMaker::archive(withFiles({{"b.hex", "3"}})).replace("b.hex", "a.hex"), forbidden);
+        row("a thousand files", thousandFiles(), u"more than 1000 entries"_s);
         // Before any of them has cost memory; no archive needs more for that.
-        QTest::newRow("countless entries")
-            << QByteArray("PK\1\2").repeated(100 * BundleArchive::MaxEntries + 1)
-            << u"more than 1000 entries"_s;
-        QTest::newRow("no conf") << BundleMaker::archive({{"a.hex", "1"}})
-                                 << u"Missing in the bundle: .conf"_s;
-        QTest::newRow("deeper") << BundleMaker::archive({{"a.hex", "1"}, {"sub/a.conf", "2"}})
-                                << u"Missing in the bundle: .conf"_s;
-        QTest::newRow("empty") << QByteArray() << u"Missing in the bundle: .conf, .hex"_s;
-        QTest::newRow("no zip") << QByteArray("firmware") << u"not a zip archive"_s;
-        QTest::newRow("cut off") << good.chopped(1) << u"not a zip archive"_s;
-        QTest::newRow("damaged") << damaged(good) << u"damaged: a.hex"_s;
-        QTest::newRow("a file as a folder")
-            << BundleMaker::archive(withFiles({{"a.hex/x", "3"}})) << u"cannot be unpacked"_s;
+        row("countless entries", QByteArray("PK\1\2").repeated(100 * BundleArchive::MaxEntries + 1),
+            u"more than 1000 entries"_s);
+        row("deeper", BundleMaker::archive({{"a.hex", "1"}, {"sub/a.conf", "2"}}), noConf);
+        row("empty", {}, noConf + u", .hex"_s);
+        row("no zip", "firmware", u"not a zip archive"_s);
+        row("cut off", good.chopped(1), u"not a zip archive"_s);
+        row("damaged", damaged(good), u"damaged: a.hex"_s);
+        row("a file as a folder", BundleMaker::archive(withFiles({{"a.hex/x", "3"}})),
+            u"cannot be unpacked"_s);
         const QByteArray bomb = BundleMaker::archive({{"zeros", QByteArray(TooManyBytes, '\0')}});
-        QTest::newRow("large") << bomb << u"larger than 256 MB"_s;
-        QTest::newRow("large, but stated small") << stating(10, bomb) << u"larger than 256 MB"_s;
+        row("large", bomb, u"larger than 256 MB"_s);
+        row("large, but stated small", stating(10, bomb), u"larger than 256 MB"_s);
     }
 
     void refuses()
     {
         QFETCH(QByteArray, archive);
         QFETCH(QString, problem);
-        QVERIFY(BundleMaker::write(u"b.bfw"_s, archive));
+        QVERIFY(writeFile(u"b.bfw"_s, archive));
         FirmwareBundle bundle({FirmwareTarget::Kind::Avr, u"avrdude"_s});
         QVERIFY(bundle.open(u"b.bfw"_s));
         QVERIFY(!bundle.isValid());
@@ -163,26 +154,18 @@ private slots:
         QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"b.bfw"_s));
     }
 
-    void whatCannotBeReadIsNoBundle_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("missing") << u"missing.bfw"_s;
-        QTest::newRow("folder") << m_home.path();
-        QTest::newRow("no end") << u"/dev/zero"_s;
-    }
-
     void whatCannotBeReadIsNoBundle()
     {
-        QFETCH(QString, path);
-        FirmwareBundle bundle({FirmwareTarget::Kind::Avr, u"avrdude"_s});
-        QVERIFY(!bundle.open(path));
-        QVERIFY(!bundle.isValid());
+        for (const QString &path : {u"missing.bfw"_s, m_home.path(), u"/dev/zero"_s}) {
+            FirmwareBundle bundle({FirmwareTarget::Kind::Avr, u"avrdude"_s});
+            QVERIFY2(!bundle.open(path) && !bundle.isValid(), qPrintable(path));
+        }
     }
 
     void workFolderThatCannotBeMade()
     {
         const QString path = m_home.filePath(u"b.bfw"_s);
-        QVERIFY(BundleMaker::write(path, BundleMaker::archive(withFiles({}))));
+        QVERIFY(writeFile(path, BundleMaker::archive(withFiles({}))));
         // Even the superuser makes no folder in one that is gone.
         m_dir.reset();
         FirmwareBundle bundle({FirmwareTarget::Kind::Avr, u"avrdude"_s});

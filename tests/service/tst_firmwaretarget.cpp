@@ -1,6 +1,6 @@
 #include "service/firmwaretarget.h"
 
-#include <QTest>
+#include "rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,32 +15,24 @@ class TestFirmwareTarget : public QObject
 private slots:
     void findsEachRolesFirstFile_data()
     {
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QString>("tool");
-        QTest::addColumn<QString>("suffix");
-        QTest::addColumn<QStringList>("paths");
-        QTest::addColumn<QString>("found");
+        const auto row =
+            columns<Kind, QString, QString, QStringList, QString>("kind", "tool", "suffix", "paths", "found");
         const QString exe = u".exe"_s;
         const QString own = u"self-avrdude.exe"_s;
-        QTest::newRow("whole") << Kind::Avr << own << exe
-                               << QStringList{u"f/a.conf"_s, u"f/avrdude.exe"_s, u"f/x.hex"_s}
-                               << u"avrdude.exe=f/avrdude.exe conf=f/a.conf hex=f/x.hex"_s;
-        QTest::newRow("no exe here") << Kind::Avr << own << QString()
-                                     << QStringList{u"f/avrdude"_s, u"f/avrdude.conf"_s, u"f/sub/x.hex"_s}
-                                     << u"avrdude.exe=f/avrdude conf=f/avrdude.conf hex=f/sub/x.hex"_s;
-        QTest::newRow("the tool lies deeper")
-            << Kind::Avr << own << QString() << QStringList{u"f/a.conf"_s, u"f/bin/avrdude"_s, u"f/x.hex"_s}
-            << u"conf=f/a.conf hex=f/x.hex"_s;
-        QTest::newRow("no conf, two images, other case")
-            << Kind::Avr << u"avrdude"_s << exe
-            << QStringList{u"f/A.CONF"_s, u"f/first.hex"_s, u"f/second.hex"_s} << u"hex=f/first.hex"_s;
-        QTest::newRow("one file meets two")
-            << Kind::Avr << u"avrdude"_s << exe << QStringList{u"f/a.conf.hex"_s} << u"conf=f/a.conf.hex"_s;
-        QTest::newRow("esp32") << Kind::Esp32 << u"esptool"_s << exe
-                               << QStringList{u"f/boot_app0.bin"_s, u"f/s.ino.bin"_s,
-                                              u"f/s.ino.bootloader.bin"_s, u"f/s.ino.partitions.bin"_s}
-                               << u"boot_app=f/boot_app0.bin bootloader=f/s.ino.bootloader.bin "
-                                  "ino=f/s.ino.bin partitions=f/s.ino.partitions.bin"_s;
+        row("whole", Kind::Avr, own, exe, {u"f/a.conf"_s, u"f/avrdude.exe"_s, u"f/x.hex"_s},
+            u"avrdude.exe=f/avrdude.exe conf=f/a.conf hex=f/x.hex"_s);
+        row("no exe here", Kind::Avr, own, {}, {u"f/avrdude"_s, u"f/avrdude.conf"_s, u"f/sub/x.hex"_s},
+            u"avrdude.exe=f/avrdude conf=f/avrdude.conf hex=f/sub/x.hex"_s);
+        row("the tool lies deeper", Kind::Avr, own, {}, {u"f/a.conf"_s, u"f/bin/avrdude"_s, u"f/x.hex"_s},
+            u"conf=f/a.conf hex=f/x.hex"_s);
+        row("no conf, two images, other case", Kind::Avr, u"avrdude"_s, exe,
+            {u"f/A.CONF"_s, u"f/first.hex"_s, u"f/second.hex"_s}, u"hex=f/first.hex"_s);
+        row("one file meets two", Kind::Avr, u"avrdude"_s, exe, {u"f/a.conf.hex"_s}, u"conf=f/a.conf.hex"_s);
+        row("esp32", Kind::Esp32, u"esptool"_s, exe,
+            {u"f/boot_app0.bin"_s, u"f/s.ino.bin"_s, u"f/s.ino.bootloader.bin"_s,
+             u"f/s.ino.partitions.bin"_s},
+            u"boot_app=f/boot_app0.bin bootloader=f/s.ino.bootloader.bin ino=f/s.ino.bin "
+            "partitions=f/s.ino.partitions.bin"_s);
     }
 
     void findsEachRolesFirstFile()
@@ -58,18 +50,14 @@ private slots:
 
     void commandLineIsExact_data()
     {
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QString>("tool");
-        QTest::addColumn<QString>("suffix");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("avr") << Kind::Avr << u"self-avrdude.exe"_s << u".exe"_s
-                             << uR"("w/avrdude.exe" "-Cw/a b.conf" -v -V -patmega2560 -cwiring "-PCOM7" )"
-                                R"(-b115200 -D -Uflash:w:w/x.hex:i)"_s;
-        QTest::newRow("esp32, a tool of the system")
-            << Kind::Esp32 << u"esptool.exe"_s << QString()
-            << uR"("esptool" --chip esp32 --port "COM7" --baud 1500000 --before default_reset --after )"
-               R"(hard_reset write_flash -z --flash_mode dio --flash_freq 80m --flash_size 4MB 0x1000 )"
-               R"("w/boot" 0x8000 "w/part" 0xe000 "w/app" 0x10000 "w/ino")"_s;
+        const auto row = columns<Kind, QString, QString, QString>("kind", "tool", "suffix", "line");
+        row("avr", Kind::Avr, u"self-avrdude.exe"_s, u".exe"_s,
+            uR"("w/avrdude.exe" "-Cw/a b.conf" -v -V -patmega2560 -cwiring "-PCOM7" )"
+            R"(-b115200 -D -Uflash:w:w/x.hex:i)"_s);
+        row("esp32, a tool of the system", Kind::Esp32, u"esptool.exe"_s, {},
+            uR"("esptool" --chip esp32 --port "COM7" --baud 1500000 --before default_reset --after )"
+            R"(hard_reset write_flash -z --flash_mode dio --flash_freq 80m --flash_size 4MB 0x1000 )"
+            R"("w/boot" 0x8000 "w/part" 0xe000 "w/app" 0x10000 "w/ino")"_s);
     }
 
     void commandLineIsExact()

@@ -1,10 +1,10 @@
 #include "service/toolrun.h"
 
 #include "bundlemaker.h"
+#include "rows.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -21,23 +21,20 @@ class TestToolRun : public QObject
 private slots:
     void endsWithTheTool_data()
     {
-        QTest::addColumn<QByteArray>("behaviour");
-        QTest::addColumn<End>("end");
-        QTest::addColumn<bool>("failure");
-        QTest::addColumn<QString>("trouble");
-        QTest::newRow("success") << QByteArray("succeed") << End::Exited << false << QString();
-        QTest::newRow("failure in capitals") << QByteArray("fail") << End::Exited << true << QString();
-        QTest::newRow("on the error output") << QByteArray("complain") << End::Exited << true << QString();
-        QTest::newRow("exit code") << QByteArray("code") << End::Exited << false << u"the code 3"_s;
-        QTest::newRow("crash") << QByteArray("crash") << End::Crashed << false << u"crashed"_s;
-        QTest::newRow("silence") << QByteArray("silent") << End::Silent << false << u"silent for too long"_s;
+        const auto row = columns<QByteArray, End, bool, QString>("behaviour", "end", "failure", "trouble");
+        row("success", "succeed", End::Exited, false, {});
+        row("failure in capitals", "fail", End::Exited, true, {});
+        row("on the error output", "complain", End::Exited, true, {});
+        row("exit code", "code", End::Exited, false, u"the code 3"_s);
+        row("crash", "crash", End::Crashed, false, u"crashed"_s);
+        row("silence", "silent", End::Silent, false, u"silent for too long"_s);
     }
 
     void endsWithTheTool()
     {
         QFETCH(QByteArray, behaviour);
         const QString conf = m_dir.filePath(u"the conf"_s);
-        QVERIFY(BundleMaker::write(conf, behaviour));
+        QVERIFY(writeFile(conf, behaviour));
         ToolRun run(nullptr, behaviour == "silent" ? 200ms : ToolRun::DefaultSilence);
         const QSignalSpy finished(&run, &ToolRun::finished);
         run.start(u"\"" SPINBAR_TEST_TOOL "\" \"-C%1\" -v"_s.arg(conf));
@@ -51,31 +48,25 @@ private slots:
         QVERIFY(run.output().shownText().startsWith("-C"_L1 + conf + "\n-v\n"_L1));
     }
 
-    void whatCannotStartEnds_data()
-    {
-        QTest::addColumn<QString>("program");
-        QTest::newRow("missing") << m_dir.filePath(u"missing"_s);
-        QTest::newRow("not executable") << m_dir.filePath(u"text"_s);
-        QTest::newRow("folder") << m_dir.path();
-    }
-
     void whatCannotStartEnds()
     {
-        QFETCH(QString, program);
-        QVERIFY(BundleMaker::write(m_dir.filePath(u"text"_s), "no program"));
-        ToolRun run;
-        const QSignalSpy finished(&run, &ToolRun::finished);
-        run.start(u'"' + program + u'"');
-        QCOMPARE(finished.size(), 0);
-        QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(run.end(), End::NotStarted);
-        QCOMPARE(run.output().shownText(), QString());
+        QVERIFY(writeFile(m_dir.filePath(u"text"_s), "no program"));
+        for (const QString &program :
+             {m_dir.filePath(u"missing"_s), m_dir.filePath(u"text"_s), m_dir.path()}) {
+            ToolRun run;
+            const QSignalSpy finished(&run, &ToolRun::finished);
+            run.start(u'"' + program + u'"');
+            QCOMPARE(finished.size(), 0);
+            QTRY_COMPARE(finished.size(), 1);
+            QCOMPARE(run.end(), End::NotStarted);
+            QCOMPARE(run.output().shownText(), QString());
+        }
     }
 
     void floodLeavesTimeAndMemory()
     {
         const QString conf = m_dir.filePath(u"flood"_s);
-        QVERIFY(BundleMaker::write(conf, "flood"));
+        QVERIFY(writeFile(conf, "flood"));
         ToolRun run;
         const QSignalSpy finished(&run, &ToolRun::finished);
         int longestPauseMs = 0;
@@ -92,22 +83,17 @@ private slots:
         QVERIFY2(longestPauseMs < 1000, qPrintable(QString::number(longestPauseMs)));
     }
 
-    void failureIsFoundWhereverItStands_data()
-    {
-        QTest::addColumn<QByteArrayList>("chunks");
-        QTest::addColumn<bool>("failure");
-        QTest::newRow("cut word") << QByteArrayList{"Inva", "l", "id"} << true;
-        QTest::newRow("long before the end") << QByteArrayList{"CAN'T", QByteArray(100'000, '.')} << true;
-        QTest::newRow("parts only") << QByteArrayList{"fail", " ed", "cannot", "in valid"} << false;
-    }
-
     void failureIsFoundWhereverItStands()
     {
-        QFETCH(QByteArrayList, chunks);
-        ToolOutput output;
-        for (const QByteArray &chunk : chunks)
-            output.append(chunk);
-        QTEST(output.tellsFailure(), "failure");
+        const auto tellsFailure = [](const QByteArrayList &chunks) {
+            ToolOutput output;
+            for (const QByteArray &chunk : chunks)
+                output.append(chunk);
+            return output.tellsFailure();
+        };
+        QVERIFY(tellsFailure({"Inva", "l", "id"}));
+        QVERIFY(tellsFailure({"CAN'T", QByteArray(100'000, '.')}));
+        QVERIFY(!tellsFailure({"fail", " ed", "cannot", "in valid"}));
     }
 
     void progressIsDrawnOverItself()

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ui/mainwindow.h"
+#include "ui/spinbarcontroller.h"
 
+#include "buttons.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
 #include "device/curlyspinbar.h"
@@ -9,16 +11,10 @@
 #include "device/serialportmanager.h"
 #include "simulator/simulatedinstrument.h"
 
-#include <QApplication>
 #include <QBuffer>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-
-#include <functional>
-#include <memory>
 
 /// A window as the operator has it before them, with a simulated instrument that can be plugged in.
 class OperatorBench
@@ -44,7 +40,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(OperatorBench)
 
-    /// True when the instrument has told all that it tells at first.
+    /// True when the instrument has told all that it tells at first, and can be operated.
     bool plugIn(QByteArray scenario = {}, bool powered = true, double rate = Rate)
     {
         SimulatedInstrumentOptions options;
@@ -59,7 +55,8 @@ public:
             instrument.get(), &SimulatedInstrument::commandReceived, window.get(),
             [this](const QString &command, Instrument::Outcome, qint64) { commands += command; });
         return instrument->start() && waitForConnection(true) && QTest::qWaitFor([&] {
-                   return model->device()->isPowered() == powered && !model->device()->version().isEmpty();
+                   return model->device()->isPowered() == powered && !model->device()->version().isEmpty()
+                          && SpinbarController::instance()->isEnabled();
                });
     }
 
@@ -85,34 +82,17 @@ public:
         });
     }
 
-    /// Named so for the operator: by its text or its accessible name.
-    QPushButton *button(const QString &text) const
+    QAbstractButton *button(const QString &name) const { return findButton(window.get(), name); }
+    void click(const QString &name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+    std::shared_ptr<QStringList> answerNext(const QString &buttonText) const
     {
-        for (QPushButton *button : window->findChildren<QPushButton *>()) {
-            if (button->text() == text || button->accessibleName() == text)
-                return button;
-        }
-        return nullptr;
+        return ::answerNext(window.get(), buttonText);
     }
 
-    void click(const QString &text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
-
-    /// Presses that button of the message box that comes up next, and gives the box's title and text.
-    static std::shared_ptr<QStringList> answerNext(const QString &buttonText)
+    template <typename Widget>
+    Widget *find() const
     {
-        auto said = std::make_shared<QStringList>();
-        QTimer::singleShot(0, qApp, [=] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            *said = {box->windowTitle(), box->text()};
-            for (QAbstractButton *button : box->buttons()) {
-                if (button->text() == buttonText)
-                    return button->click();
-            }
-            box->reject();
-        });
-        return said;
+        return window->findChild<Widget *>();
     }
 
     QTemporaryDir data;

@@ -3,21 +3,16 @@
 #include "ui/pagedatabase.h"
 #include "ui/recordstable.h"
 
+#include "buttons.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarsettings.h"
+#include "files.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
-#include <QMessageBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-
-#include <memory>
 
 /// A records page over a folder of its own.
 class RecordsBench
@@ -34,8 +29,7 @@ public:
     {
         const QString filePath = path(name);
         QDir().mkpath(filePath.first(filePath.lastIndexOf(u'/')));
-        QFile file(filePath);
-        if (!file.open(QFile::WriteOnly) || file.write(content) != content.size())
+        if (!writeFile(filePath, content))
             qFatal("cannot write");
     }
 
@@ -87,34 +81,10 @@ public:
     /// 0 without, 1 with one and 2 with several experiments shown.
     int shownPage() const { return page->findChild<QStackedWidget *>()->currentIndex(); }
 
-    void click(const QString &accessibleName) const
+    void click(const QString &name) const { QTest::mouseClick(findButton(page.get(), name), Qt::LeftButton); }
+    std::shared_ptr<QStringList> answerNext(const QString &buttonText) const
     {
-        for (auto *button : page->findChildren<QAbstractButton *>()) {
-            if (button->accessibleName() == accessibleName)
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-        qFatal("no such button");
-    }
-
-    /// Presses that button of the message box that comes up next, and tells what was asked.
-    std::shared_ptr<QString> answerNext(const QString &buttonText) const
-    {
-        auto said = std::make_shared<QString>();
-        auto *timer = new QTimer(page.get());
-        QObject::connect(timer, &QTimer::timeout, timer, [=] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            timer->stop();
-            *said = box->text();
-            for (QAbstractButton *button : box->buttons()) {
-                if (button->text() == buttonText)
-                    return button->click();
-            }
-            box->reject();
-        });
-        timer->start(0);
-        return said;
+        return ::answerNext(page.get(), buttonText);
     }
 
     QTemporaryDir data;

@@ -6,6 +6,7 @@
 #include "core/spinbarrecord.h"
 #include "framework/common/widgets/stylehelper.h"
 #include "framework/common/widgets/tablecopy.h"
+#include "rows.h"
 #include "scripts/widgets/speedscriptviewer.h"
 
 #include <QHeaderView>
@@ -19,15 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A run of 40 s at a steady speed, on the instrument's clock from a minute on.
-void writeRun(const ExperimentFolder &folder)
-{
-    QList<std::pair<qint64, qint64>> samples;
-    for (int i = 0; i <= 200; ++i)
-        samples.append({60'000 + i * 200, i * 600});
-    folder.writeLog(samples);
-}
 
 QStringList texts(const QTableWidget &table, int row)
 {
@@ -60,37 +52,25 @@ class TestExperimentViewers : public QObject
 private slots:
     void cellIsShownByItsKind_data()
     {
-        QTest::addColumn<QString>("firstHeader");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QVariant>("cell");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Qt::AlignmentFlag>("side");
-        QTest::addColumn<bool>("icon");
-        QTest::addColumn<QString>("toolTip");
-        const auto row = [](const char *name, const QString &header, int column, const QVariant &cell,
-                            const QString &text, Qt::AlignmentFlag side, bool icon = false,
-                            const QString &toolTip = {}) {
-            QTest::newRow(name) << header << column << cell << text << side << icon << toolTip;
-        };
+        const auto row = columns<QString, int, QVariant, QString, Qt::AlignmentFlag, bool, QString>(
+            "firstHeader", "column", "cell", "text", "side", "icon", "toolTip");
         const QString date = u"Date"_s;
-        row("number", date, 1, 1.5, u"1.500"_s, Qt::AlignRight);
-        row("rounded number", date, 0, 2.0 / 3, u"0.667"_s, Qt::AlignRight);
-        row("not a number", date, 1, std::nan(""), u"0.000"_s, Qt::AlignRight);
-        row("infinite", date, 1, -HUGE_VAL, u"0.000"_s, Qt::AlignRight);
-        row("whole number", date, 1, 12, u"12"_s, Qt::AlignRight);
-        row("text", date, 0, u"7"_s, u"7"_s, Qt::AlignLeft);
-        row("text under a number sign", u"№"_s, 0, u"7"_s, u"7"_s, Qt::AlignRight);
-        row("the same in English", u"#"_s, 0, u"7"_s, u"7"_s, Qt::AlignRight);
-        row("text beside it", u"#"_s, 1, u"7"_s, u"7"_s, Qt::AlignLeft);
-        row("number sign", date, 1, u"#"_s, u"#"_s, Qt::AlignRight);
+        const QString deviation = u"Standard deviation"_s;
+        row("rounded number", date, 0, 2.0 / 3, u"0.667"_s, Qt::AlignRight, false, {});
+        row("not a number", date, 1, std::nan(""), u"0.000"_s, Qt::AlignRight, false, {});
+        row("infinite", date, 1, -HUGE_VAL, u"0.000"_s, Qt::AlignRight, false, {});
+        row("whole number", date, 1, 12, u"12"_s, Qt::AlignRight, false, {});
+        row("text", date, 0, u"7"_s, u"7"_s, Qt::AlignLeft, false, {});
+        row("text under a number sign", u"№"_s, 0, u"7"_s, u"7"_s, Qt::AlignRight, false, {});
+        row("text beside it", u"#"_s, 1, u"7"_s, u"7"_s, Qt::AlignLeft, false, {});
+        row("number sign", date, 1, u"#"_s, u"#"_s, Qt::AlignRight, false, {});
         row("mean", date, 1, u"M"_s, u"M"_s, Qt::AlignRight, false, u"Average value"_s);
         row("dispersion", date, 0, u"D"_s, u"D"_s, Qt::AlignRight, false, u"Dispersion"_s);
-        row("deviation", date, 1, u"CKO"_s, u"CKO"_s, Qt::AlignRight, false, u"Standard deviation"_s);
-        row("the same in English", date, 1, u"σ"_s, u"σ"_s, Qt::AlignRight, false, u"Standard deviation"_s);
-        row("long label", date, 1, u"M - average value"_s, u"M - average value"_s, Qt::AlignLeft);
-        row("mouse", date, 0, u"{M} 00:01-00:02 [7]"_s, u"00:01-00:02 [7]"_s, Qt::AlignLeft, true);
-        row("rat", date, 1, u"{R} x {R}"_s, u"x {R}"_s, Qt::AlignLeft, true);
-        row("other brace", date, 1, u"{X} x"_s, u"{X} x"_s, Qt::AlignLeft);
+        row("deviation", date, 1, u"CKO"_s, u"CKO"_s, Qt::AlignRight, false, deviation);
+        row("deviation in English", date, 1, u"σ"_s, u"σ"_s, Qt::AlignRight, false, deviation);
+        row("mouse", date, 0, u"{M} 00:01-00:02 [7]"_s, u"00:01-00:02 [7]"_s, Qt::AlignLeft, true, {});
+        row("rat", date, 1, u"{R} x {R}"_s, u"x {R}"_s, Qt::AlignLeft, true, {});
+        row("other brace", date, 1, u"{X} x"_s, u"{X} x"_s, Qt::AlignLeft, false, {});
     }
 
     void cellIsShownByItsKind()
@@ -114,16 +94,13 @@ private slots:
         QVERIFY(!table.item(1, 0));
     }
 
-    void headersFillTheWidth()
+    void aFilledTableIsFilledAnew()
     {
         QTableWidget table;
         fillTable(&table, {{u"#"_s, u"b"_s, u"c"_s}, {}, {1, 2, 3}});
         fillTable(&table, {{u"Date"_s, u"Title"_s}, {1, 2}});
         QCOMPARE(table.columnCount(), 2);
         QCOMPARE(table.horizontalHeaderItem(1)->text(), u"Title"_s);
-        QVERIFY(table.verticalHeader()->isHidden());
-        QCOMPARE(table.horizontalHeader()->sectionResizeMode(0), QHeaderView::ResizeToContents);
-        QCOMPARE(table.horizontalHeader()->sectionResizeMode(1), QHeaderView::Stretch);
         fillTable(&table, {});
         QCOMPARE(table.rowCount(), 0);
     }
@@ -138,31 +115,22 @@ private slots:
         QCOMPARE(table.item(1, 1)->foreground().style(), Qt::NoBrush);
     }
 
-    void numbersAreNeverCut_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<bool>("even");
-        QTest::addColumn<bool>("scrolls");
-        QTest::newRow("wide") << 900 << true << false;
-        QTest::newRow("narrow") << 330 << false << false;
-        QTest::newRow("too narrow") << 200 << false << true;
-    }
-
     void numbersAreNeverCut()
     {
-        QFETCH(int, width);
-        QFETCH(bool, even);
         ExperimentTable table(u"Results"_s);
-        table.resize(width, 300);
         table.setRows({{u"#"_s, u"Interval"_s, u"N"_s, u"N"_s},
                        {u"1"_s, u"{R} 00:00:01-00:00:59 [1]"_s, 123456.789, 1.5}});
         table.show();
-        for (int column = 0; column < table.columnCount(); ++column) {
-            const QString text = table.item(0, column)->text();
-            QVERIFY(table.columnWidth(column) > table.fontMetrics().horizontalAdvance(text));
+        for (const int width : {900, 330, 200}) {
+            table.resize(width, 300);
+            for (int column = 0; column < table.columnCount(); ++column) {
+                const QString text = table.item(0, column)->text();
+                QVERIFY(table.columnWidth(column) > table.fontMetrics().horizontalAdvance(text));
+            }
+            // Wide columns are even, narrow ones fit and too narrow ones can be scrolled.
+            QCOMPARE(table.horizontalHeader()->sectionResizeMode(1) == QHeaderView::Stretch, width == 900);
+            QCOMPARE(table.horizontalHeader()->length() > table.viewport()->width(), width == 200);
         }
-        QCOMPARE(table.horizontalHeader()->sectionResizeMode(1) == QHeaderView::Stretch, even);
-        QTEST(table.horizontalHeader()->length() > table.viewport()->width(), "scrolls");
     }
 
     void aLongNameLeavesRoom()
@@ -177,7 +145,8 @@ private slots:
     void oneExperimentIsATableAndAGraph()
     {
         const ExperimentFolder folder;
-        writeRun(folder);
+        // 40 s at a steady speed, on the instrument's clock from a minute on.
+        folder.write("status.log", statusLog(201, 60'000, 600));
         auto record = std::make_unique<SpinbarRecord>(folder.path(), QDateTime());
         record->addItem(61'000, 71'000, 1500, 6, false, {});
         record->addItem(62'000, 82'000, 3000, 0, false, {});
@@ -217,7 +186,7 @@ private slots:
     {
         const ExperimentFolder first;
         const ExperimentFolder second;
-        writeRun(first);
+        first.write("status.log", statusLog(201, 60'000, 600));
         SpinbarRecord rats(first.path(), {});
         rats.addItem(60'000, 70'000, 1500, 0, true, {});
         rats.setTitle(u"Group A"_s);

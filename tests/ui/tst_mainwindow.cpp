@@ -1,16 +1,12 @@
-#include "ui/languagequestion.h"
 #include "ui/pagedatabase.h"
 #include "ui/pagesettings.h"
-#include "ui/spinbarcontroller.h"
 
-#include "core/spinbarrecord.h"
-#include "detection/spinbardetection.h"
 #include "framework/common/widgets/nellipse.h"
 #include "framework/settings/languagecontext.h"
 #include "operatorbench.h"
+#include "rows.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -73,41 +69,11 @@ private slots:
         QVERIFY(finished->isHidden());
     }
 
-    void closingEndsTheRecording()
-    {
-        OperatorBench bench;
-        QVERIFY(bench.plugIn("1 2 on\n"));
-        // Only a turning drum makes a run count.
-        bench.model->device()->setMotorSpeed(2);
-        bench.model->startRecord({});
-        QTRY_VERIFY(bench.model->device()->ratDetectors().at(1)->rotations() > 0);
-        const QString path = bench.model->currentRecord()->experimentJsonPath();
-        QVERIFY(bench.window->close());
-        QVERIFY(!bench.model->currentRecord());
-        SpinbarRecord stored(QFileInfo(path).path() + '/'_L1, {});
-        QVERIFY(stored.load());
-        QCOMPARE(stored.rawItems().size(), 1);
-        QCOMPARE(stored.rawItems().constFirst().index, 1);
-        QCOMPARE(stored.sn(), u"B42403101"_s);
-    }
-
-    void languageIsAskedForInBothLanguages()
-    {
-        LanguageContext::setLanguage(u"en_US"_s);
-        const auto question = LanguageQuestion::forLanguage(u"ru_RU"_s);
-        QCOMPARE(question.title, u"Language change/Смена языка"_s);
-        QVERIFY(question.text.startsWith(
-            "To translate the app to the other language a restart is required. \nRestart now?\r\n\r\n"_L1));
-        // "OK" is the same in both.
-        QCOMPARE(question.buttons, QStringList({u"OK"_s, u"Not now/Не сейчас"_s, u"Cancel/Отмена"_s}));
-    }
-
     void languageChangesByTheAnswer_data()
     {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<SpinbarSettings::SpinbarLanguage>("kept");
-        QTest::newRow("cancel") << u"Cancel/Отмена"_s << SpinbarSettings::en_US;
-        QTest::newRow("not now") << u"Not now/Не сейчас"_s << SpinbarSettings::ru_RU;
+        const auto row = columns<QString, SpinbarSettings::SpinbarLanguage>("button", "kept");
+        row("cancel", u"Cancel/Отмена"_s, SpinbarSettings::en_US);
+        row("not now", u"Not now/Не сейчас"_s, SpinbarSettings::ru_RU);
     }
 
     void languageChangesByTheAnswer()
@@ -117,9 +83,9 @@ private slots:
         LanguageContext::setLanguage(u"en_US"_s);
         OperatorBench bench;
         SpinbarSettings *settings = bench.model->settings();
-        OperatorBench::answerNext(u"Not now"_s);
+        bench.answerNext(u"Not now"_s);
         settings->setLanguage(SpinbarSettings::en_US);
-        const auto said = OperatorBench::answerNext(button);
+        const auto said = bench.answerNext(button);
         settings->setLanguage(SpinbarSettings::ru_RU);
         QCOMPARE(said->value(0), u"Language change/Смена языка"_s);
         QCOMPARE(settings->getLanguage(), kept);
@@ -135,12 +101,12 @@ private slots:
         LanguageContext::setLanguage(u"en_US"_s);
         OperatorBench bench;
         SpinbarSettings *settings = bench.model->settings();
-        OperatorBench::answerNext(u"Not now"_s);
+        bench.answerNext(u"Not now"_s);
         settings->setLanguage(SpinbarSettings::en_US);
         const QString started = QCoreApplication::arguments().constFirst() + ".started"_L1;
         QVERIFY(!QFile::exists(started));
-        QTimer::singleShot(0, this, [settings] {
-            OperatorBench::answerNext(u"OK"_s);
+        QTimer::singleShot(0, this, [&bench, settings] {
+            bench.answerNext(u"OK"_s);
             settings->setLanguage(SpinbarSettings::ru_RU);
         });
         QCOMPARE(QCoreApplication::exec(), 0);
@@ -150,32 +116,27 @@ private slots:
         QCOMPARE(stored.getLanguage(), SpinbarSettings::ru_RU);
     }
 
-    void keysReachTheServiceTools_data()
-    {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<int>("firmware");
-        QTest::addColumn<int>("writer");
-        constexpr auto Both = Qt::ControlModifier | Qt::AltModifier;
-        QTest::newRow("firmware") << Qt::Key_F2 << Qt::KeyboardModifiers(Both) << 1 << 0;
-        QTest::newRow("firmware, Shift") << Qt::Key_F2 << (Both | Qt::ShiftModifier) << 1 << 0;
-        QTest::newRow("F2, Control") << Qt::Key_F2 << Qt::KeyboardModifiers(Qt::ControlModifier) << 0 << 0;
-        QTest::newRow("writer") << Qt::Key_F3 << (Both | Qt::ShiftModifier) << 0 << 1;
-        QTest::newRow("F3, no Shift") << Qt::Key_F3 << Qt::KeyboardModifiers(Both) << 0 << 0;
-    }
-
     void keysReachTheServiceTools()
     {
-        QFETCH(Qt::Key, key);
-        QFETCH(Qt::KeyboardModifiers, modifiers);
         OperatorBench bench;
-        const QSignalSpy firmware(SpinbarController::instance(), &SpinbarController::firmwareUpdateRequested);
-        const QSignalSpy writer(bench.window.get(), &MainWindow::deviceWriterRequested);
-        QTest::keyPress(bench.window.get(), key, modifiers);
-        QCOMPARE(firmware.size() + writer.size(), 0);
-        QTest::keyRelease(bench.window.get(), key, modifiers);
-        QTEST(int(firmware.size()), "firmware");
-        QTEST(int(writer.size()), "writer");
+        QString asked;
+        connect(SpinbarController::instance(), &SpinbarController::firmwareUpdateRequested, this,
+                [&asked] { asked += u"firmware "_s; });
+        connect(bench.window.get(), &MainWindow::deviceWriterRequested, this,
+                [&asked] { asked += u"writer "_s; });
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            asked.clear();
+            QTest::keyPress(bench.window.get(), key, modifiers);
+            asked += u"released "_s;
+            QTest::keyRelease(bench.window.get(), key, modifiers);
+            return asked;
+        };
+        constexpr auto Both = Qt::ControlModifier | Qt::AltModifier;
+        QCOMPARE(press(Qt::Key_F2, Both), u"released firmware "_s);
+        QCOMPARE(press(Qt::Key_F2, Both | Qt::ShiftModifier), u"released firmware "_s);
+        QCOMPARE(press(Qt::Key_F2, Qt::ControlModifier), u"released "_s);
+        QCOMPARE(press(Qt::Key_F3, Both | Qt::ShiftModifier), u"released writer "_s);
+        QCOMPARE(press(Qt::Key_F3, Both), u"released "_s);
     }
 };
 

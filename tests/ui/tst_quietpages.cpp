@@ -3,6 +3,7 @@
 #include "ui/pageabout.h"
 #include "ui/pagesettings.h"
 
+#include "files.h"
 #include "framework/settings/languagecontext.h"
 #include "operatorbench.h"
 #include "scripts/widgets/speedscripteditor.h"
@@ -10,7 +11,6 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -27,16 +27,15 @@ QStringList textsOf(const QWidget &parent, const QString &objectName)
     return texts;
 }
 
-/// What \a look finds in the dialog that comes up next, which is then closed.
-std::shared_ptr<QStringList> lookAtNextDialog(const std::function<QStringList(const QDialog &)> &look)
+/// The title of the dialog that comes up next, and the text of what is found in it, which is then closed.
+template <typename Widget>
+std::shared_ptr<QStringList> lookAtNextDialog(QObject *context)
 {
     auto seen = std::make_shared<QStringList>();
-    QTimer::singleShot(0, qApp, [=] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        *seen = QStringList(dialog->windowTitle()) + look(*dialog);
-        dialog->reject();
+    onNext<QDialog>(context, [seen](QDialog &dialog) {
+        const auto *widget = dialog.findChild<Widget *>();
+        *seen = {dialog.windowTitle(), widget ? widget->property("text").toString() : u"nothing"_s};
+        dialog.reject();
     });
     return seen;
 }
@@ -66,65 +65,35 @@ private slots:
             QDesktopServices::unsetUrlHandler(scheme);
     }
 
-    void settingsStandInTheirGroups()
-    {
-        OperatorBench bench;
-        bench.click(u"Настройки"_s);
-        const auto *page = bench.window->findChild<PageSettings *>();
-        QCOMPARE(textsOf(*page, u"propertyCategoryLabel"_s),
-                 QStringList({u"Общее"_s, u"Эксперимент"_s, u"Детекция"_s}));
-        QCOMPARE(textsOf(*page, u"propertyHeaderLabel"_s),
-                 QStringList({u"Цветовая тема"_s, u"При экспорте"_s, u"Язык"_s, u"Запуск на полный экран"_s,
-                              u"Режим"_s, u"Размерность"_s, u"Макс. ожидание"_s, u"Мин. время пребывания"_s,
-                              u"Показать значения ИК"_s}));
-    }
-
     void scriptEditorOpensOverTheSettings()
     {
         OperatorBench bench;
         bench.click(u"Настройки"_s);
-        const auto seen = lookAtNextDialog([](const QDialog &dialog) {
-            return dialog.findChild<SpeedScriptEditor *>() ? QStringList(u"editor"_s) : QStringList();
-        });
+        const auto seen = lookAtNextDialog<SpeedScriptEditor>(bench.window.get());
         // Another button of that name stands on the page behind.
-        for (QPushButton *button : bench.window->findChild<PageSettings *>()->findChildren<QPushButton *>()) {
-            if (button->text() == u"Редактор сценариев"_s)
-                button->click();
-        }
-        QCOMPARE(*seen, QStringList({u"Редактор сценариев"_s, u"editor"_s}));
-    }
-
-    void manualIsTheOneForTheLanguage_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("english");
-        QTest::addColumn<QString>("russian");
-        QTest::newRow("none") << QStringList{u"a/manual_en.txt"_s} << QString() << QString();
-        QTest::newRow("both") << QStringList{u"a/manual_en.pdf"_s, u"a/manual_ru.pdf"_s}
-                              << u"a/manual_en.pdf"_s << u"a/manual_ru.pdf"_s;
-        QTest::newRow("one") << QStringList{u"a/Manual_RU.PDF"_s} << u"a/Manual_RU.PDF"_s
-                             << u"a/Manual_RU.PDF"_s;
-        QTest::newRow("no language") << QStringList{u"a/1.pdf"_s, u"a/2.pdf"_s} << u"a/1.pdf"_s
-                                     << u"a/1.pdf"_s;
-        QTest::newRow("two folders") << QStringList{u"a/manual_en.pdf"_s, u"b/manual_ru.pdf"_s}
-                                     << u"a/manual_en.pdf"_s << u"b/manual_ru.pdf"_s;
+        findButton(bench.find<PageSettings>(), u"Редактор сценариев"_s)->click();
+        QCOMPARE(*seen, QStringList({u"Редактор сценариев"_s, {}}));
     }
 
     void manualIsTheOneForTheLanguage()
     {
-        QFETCH(QStringList, files);
         const QTemporaryDir root;
         QDir dir(root.path());
-        QVERIFY(dir.mkdir(u"a"_s));
-        QVERIFY(!files.join(u""_s).contains("b/"_L1) || dir.mkdir(u"b"_s));
-        for (const QString &name : files)
-            QVERIFY(QFile(dir.filePath(name)).open(QIODevice::WriteOnly));
-        const auto manual = [&](const QString &language) {
-            const QString path = AboutFacts::manual({dir.filePath(u"a"_s), dir.filePath(u"b"_s)}, language);
-            return path.isEmpty() ? path : dir.relativeFilePath(path);
-        };
-        QTEST(manual(u"en_US"_s), "english");
-        QTEST(manual(u"ru_RU"_s), "russian");
+        const QStringList folders{dir.filePath(u"a"_s), dir.filePath(u"b"_s)};
+        QVERIFY(dir.mkdir(u"a"_s) && dir.mkdir(u"b"_s));
+        // What is added, and what is then found for English and for Russian.
+        const QStringList steps[] = {{u"a/manual_en.txt"_s, {}, {}},
+                                     {u"b/1.pdf"_s, u"b/1.pdf"_s, u"b/1.pdf"_s},
+                                     {u"a/Manual_RU.PDF"_s, u"a/Manual_RU.PDF"_s, u"a/Manual_RU.PDF"_s},
+                                     {u"b/manual_en.pdf"_s, u"b/manual_en.pdf"_s, u"a/Manual_RU.PDF"_s},
+                                     {u"a/manual_en.pdf"_s, u"a/manual_en.pdf"_s, u"a/Manual_RU.PDF"_s}};
+        for (const QStringList &step : steps) {
+            QVERIFY(writeFile(dir.filePath(step[0])));
+            for (int i = 1; i <= 2; ++i) {
+                const QString path = AboutFacts::manual(folders, i == 1 ? u"en_US"_s : u"ru_RU"_s);
+                QCOMPARE(path, step[i].isEmpty() ? step[i] : dir.filePath(step[i]));
+            }
+        }
     }
 
     void birthdaysHaveABalloon()
@@ -137,7 +106,7 @@ private slots:
         QVERIFY(text.startsWith("A &amp; B<br/> <img "_L1) && text.endsWith(u">Я<br/>"_s));
         const QString image = text.section('"'_L1, 1, 1);
         QVERIFY(text.contains(image + "\" width=\"10\" height=\"14\" title=\""_L1));
-        QVERIFY2(QFile::exists(image), qPrintable(image)); // so must rich text find it
+        QVERIFY2(QFileInfo::exists(image), qPrintable(image)); // so must rich text find it
     }
 
     void panelOpensWhatItNames()
@@ -169,19 +138,12 @@ private slots:
         PageAbout page(nullptr);
         page.show();
         QCOMPARE(textsOf(page, u"graytext"_s).size(), 5);
-        for (QPushButton *button : page.findChildren<QPushButton *>()) {
-            if (button->text() != u"Список изменений"_s)
-                continue;
-            const auto seen = lookAtNextDialog(
-                [](const QDialog &dialog) { return QStringList(dialog.findChild<QLabel *>()->text()); });
-            button->click();
-            QCOMPARE(seen->value(0), u"Список изменений"_s);
-            QVERIFY(seen->value(1).startsWith(QStringLiteral(SPINBAR_VERSION) + " ("_L1));
-            QVERIFY(seen->value(1).contains(u"\r\n+ Прибор"_s));
-            QVERIFY(!seen->value(1).contains('<'_L1));
-            return;
-        }
-        QFAIL("no button");
+        const auto seen = lookAtNextDialog<QLabel>(&page);
+        findButton(&page, u"Список изменений"_s)->click();
+        QCOMPARE(seen->value(0), u"Список изменений"_s);
+        QVERIFY(seen->value(1).startsWith(QStringLiteral(SPINBAR_VERSION) + " ("_L1));
+        QVERIFY(seen->value(1).contains(u"\r\n+ Прибор"_s));
+        QVERIFY(!seen->value(1).contains('<'_L1));
     }
 };
 
