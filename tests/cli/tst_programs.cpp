@@ -1,4 +1,5 @@
 #include "core/spinbarrecord.h"
+#include "files.h"
 #include "program.h"
 
 #include <QDir>
@@ -13,13 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int FailedCode = 1;
-constexpr int LinkLostCode = 4;
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QString simulatorPath()
 {
@@ -80,7 +74,7 @@ private slots:
         QCOMPARE(recorder.exitCode(), FailedCode);
         QVERIFY(recorder.readAllStandardError().contains(recordedFolder().toUtf8()
                                                          + "status.log': File too large"));
-        const QByteArray log = readFile(recordedFolder() + "status.log"_L1);
+        const QByteArray log = contents(recordedFolder() + "status.log"_L1);
         QVERIFY(log.size() > 900 && log.size() <= 1024 && log.endsWith("\r\n"));
         // The rows of the last save that found room.
         QByteArray rows = recorder.readAllStandardOutput();
@@ -101,30 +95,12 @@ private slots:
         SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
         QVERIFY(record.load());
         QVERIFY(!record.rawItems().isEmpty());
-        QFile log(recordedFolder() + "status.log"_L1);
-        QVERIFY(log.open(QFile::ReadOnly));
-        const QByteArray bytes = log.readAll();
-        QVERIFY(bytes.count('\n') >= 3);
+        QVERIFY(contents(recordedFolder() + "status.log"_L1).count('\n') >= 3);
         // Whole lines up to the end of the last fall, each one period behind the one before.
         QVERIFY(record.durationSeconds() * 1000 >= double(record.normalizedItems().constLast().end));
         const auto &samples = record.counters().samples();
         for (std::size_t i = 1; i < samples.size(); ++i)
             QCOMPARE(samples[i].timeMs - samples[i - 1].timeMs, qint64(SpinbarRecord::StatusPeriodMs));
-    }
-
-    void endOfTheInstrumentEndsTheRecording()
-    {
-        auto simulator = std::make_unique<Program>(
-            simulatorPath(), QStringList{u"--link"_s, port(), u"--rate"_s, u"20"_s}, m_environment);
-        QVERIFY(simulator->waitForText("ready "));
-        Program recorder(cliPath(), recordArguments(), m_environment);
-        QVERIFY(recorder.waitForText(R"("event":"found")"));
-        simulator.reset();
-        QVERIFY(recorder.waitForText(R"("event":"stopped")"));
-        QVERIFY(recorder.waitForFinished(Program::TimeoutMs));
-        QCOMPARE(recorder.exitCode(), LinkLostCode);
-        SpinbarRecord record(recordedFolder(), QDateTime::currentDateTime());
-        QVERIFY(record.load());
     }
 
     void messagesFollowTheLanguage()

@@ -1,6 +1,8 @@
 #include "cli/clirun.h"
 
+#include "core/experimentfolder.h"
 #include "device/serialportmanager.h"
+#include "rows.h"
 #include "simulator/scenario.h"
 #include "simulator/simulatedinstrument.h"
 
@@ -21,18 +23,6 @@ enum ExitCodes { Done = 0, Failed = 1, NoInstrument = 3, LinkLost = 4 };
 // So many times faster than a real instrument; five status messages a second become a hundred.
 constexpr double Rate = 20.0;
 constexpr double StepSeconds = 0.2;
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 Scenario parseScenario(QByteArray text)
 {
@@ -83,7 +73,7 @@ private slots:
         const QString folder = eventNamed(run, u"stopped"_s)["path"_L1].toString();
         QCOMPARE(folder, eventNamed(run, u"recording"_s)["path"_L1].toString());
         const QJsonObject experiment =
-            QJsonDocument::fromJson(readFile(folder + "/experiment.json"_L1))["experiment"_L1].toObject();
+            QJsonDocument::fromJson(contents(folder + "/experiment.json"_L1))["experiment"_L1].toObject();
         QCOMPARE(experiment["title"_L1].toString(), u"Rat \"7\""_s);
         QCOMPARE(experiment["comment"_L1].toString(), u"второй день"_s);
         QCOMPARE(experiment["sn"_L1].toString(), u"B42403101"_s);
@@ -100,11 +90,7 @@ private slots:
 
     void everyLineSentStandsInTheLog()
     {
-        QByteArray sent;
-        for (int line = 0; line < 4000; ++line) {
-            sent += "S;1;0;28;28;28;28;" + QByteArray::number(line * 7, 16) + ';'
-                    + QByteArray::number(5000 + line * 200, 16) + "\r\n";
-        }
+        const QByteArray sent = statusLog(4000, 5000, 7);
         SimulatedInstrumentOptions options;
         options.replayPath = m_folder->filePath(u"sent.log"_s);
         QVERIFY(writeFile(options.replayPath, sent));
@@ -113,7 +99,7 @@ private slots:
         const CliRun run = record({u"--json"_s, u"--duration"_s, u"2"_s});
         QCOMPARE(run.exitCode, Done);
         const QByteArray log =
-            readFile(eventNamed(run, u"stopped"_s)["path"_L1].toString() + "/status.log"_L1);
+            contents(eventNamed(run, u"stopped"_s)["path"_L1].toString() + "/status.log"_L1);
         QVERIFY2(log.count('\n') > 500, qPrintable(QString::number(log.count('\n'))));
         QVERIFY(sent.contains(log));
     }
@@ -126,8 +112,8 @@ private slots:
         const QStringList names = run.eventNames();
         QCOMPARE(names.sliced(names.size() - 3), QStringList({u"fall"_s, u"disconnected"_s, u"stopped"_s}));
         const QString folder = eventNamed(run, u"stopped"_s)["path"_L1].toString();
-        QVERIFY(readFile(folder + "/status.log"_L1).count('\n') > 20);
-        const QJsonDocument json = QJsonDocument::fromJson(readFile(folder + "/experiment.json"_L1));
+        QVERIFY(contents(folder + "/status.log"_L1).count('\n') > 20);
+        const QJsonDocument json = QJsonDocument::fromJson(contents(folder + "/experiment.json"_L1));
         QCOMPARE(json["experiment"_L1]["items"_L1].toArray().size(), 1);
     }
 
@@ -151,25 +137,18 @@ private slots:
 
     void constantSpeedIsCommandedAndStopped_data()
     {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("mode");
+        const auto row = columns<QString, QString, QString>("words", "command", "mode");
         // 9.487179487179487 motor rotations a drum rotation, drums of 70 mm and 40 mm.
-        QTest::newRow("rats, rpm") << QStringList{u"--speed"_s, u"12"_s,       u"--unit"_s,
-                                                  u"rpm"_s,     u"--rodent"_s, u"rats"_s}
-                                   << u"rotate=1.897"_s << u"irmode=r"_s;
-        QTest::newRow("mice, cm/s") << QStringList{u"--speed"_s, u"5"_s,        u"--unit"_s,
-                                                   u"cm/s"_s,    u"--rodent"_s, u"mice"_s}
-                                    << u"rotate=3.775"_s << u"irmode=m"_s;
-        QTest::newRow("top speed") << QStringList{u"--speed"_s, u"30"_s, u"--unit"_s, u"rpm"_s}
-                                   << u"rotate=4.744"_s << u"irmode=r"_s;
+        row("rats, rpm", u"--speed 12 --unit rpm --rodent rats"_s, u"rotate=1.897"_s, u"irmode=r"_s);
+        row("mice, cm/s", u"--speed 5 --unit cm/s --rodent mice"_s, u"rotate=3.775"_s, u"irmode=m"_s);
+        row("top speed", u"--speed 30 --unit rpm"_s, u"rotate=4.744"_s, u"irmode=r"_s);
     }
 
     void constantSpeedIsCommandedAndStopped()
     {
-        QFETCH(QStringList, words);
+        QFETCH(QString, words);
         startInstrument({}, "1 1 on\n");
-        const CliRun run = record(QStringList{u"--duration"_s, u"0.3"_s} + words);
+        const CliRun run = record(QStringList{u"--duration"_s, u"0.3"_s} + words.split(u' '));
         QCOMPARE(run.exitCode, Done);
         QTEST(m_commands.filter(u"rotate="_s).value(0), "command");
         QCOMPARE(m_commands.filter(u"rotate="_s).constLast(), u"rotate=0.000"_s);
