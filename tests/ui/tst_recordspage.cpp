@@ -246,6 +246,9 @@ private slots:
             for (int row = 0; row < selected; ++row)
                 bench.table->item(row, 0)->setSelected(true);
             const auto said = bench.answerNext(answer);
+            bench.page->activateWindow();
+            if (!QTest::qWaitForWindowActive(bench.page.get()))
+                return u"not active"_s;
             QTest::keyClick(bench.table, Qt::Key_Delete);
             QCoreApplication::processEvents();
             return said->value(1);
