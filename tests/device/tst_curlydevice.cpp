@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -242,6 +243,7 @@ private slots:
         // Behind the device's own handler, which is queued.
         connect(heldPort(bench.line), &QSerialPort::readyRead, this,
                 [&bench] { bench.device.setEnabled(false); });
+        QTest::failOnWarning(QRegularExpression(u"."_s));
         bench.line.terminal.write("{late}");
         QTRY_VERIFY(!bench.device.isConnected());
         QCoreApplication::processEvents();
