@@ -27,24 +27,18 @@ private slots:
     void headerOpensThePages()
     {
         OperatorBench bench;
-        QCOMPARE(bench.window->minimumSize(), QSize(900, 600));
-        QStringList titles;
-        for (const QPushButton *button : bench.window->findChildren<QPushButton *>()) {
-            if (button->isFlat() && button->isCheckable())
-                titles += button->accessibleName();
-        }
-        QCOMPARE(titles, QStringList({DevicePage, RecordsPage, SettingsPage, u"О программе"_s}));
+        const QStringList titles{DevicePage, RecordsPage, SettingsPage, u"О программе"_s};
         QVERIFY(bench.button(DevicePage)->isChecked());
-        bench.click(SettingsPage);
-        QVERIFY(bench.window->findChild<PageSettings *>()->isVisible());
-        for (const QString &title : titles)
-            QCOMPARE(bench.button(title)->isChecked(), title == SettingsPage);
-        bench.click(SettingsPage);
-        QVERIFY(bench.button(SettingsPage)->isChecked());
+        for (int i = 0; i < 2; ++i) {
+            bench.click(SettingsPage);
+            QVERIFY(bench.find<PageSettings>()->isVisible());
+            for (const QString &title : titles)
+                QCOMPARE(bench.button(title)->isChecked(), title == SettingsPage);
+        }
         // As a screen reader does, there and once more.
         for (int i = 0; i < 2; ++i) {
             bench.button(RecordsPage)->toggle();
-            QVERIFY(bench.window->findChild<PageDatabase *>()->isVisible());
+            QVERIFY(bench.find<PageDatabase>()->isVisible());
             QVERIFY(bench.button(RecordsPage)->isChecked() && !bench.button(SettingsPage)->isChecked());
         }
     }

@@ -117,7 +117,6 @@ private slots:
         const QString serialNumber = text(widget, false);
         const QString month = QDate::currentDate().toString(u"yyMM"_s);
         QCOMPARE(serialNumber, "B4" + month + "101");
-        QVERIFY(said.startsWith("Serial number is generated as follows:\nB4\t"_L1));
         QVERIFY(said.contains(u'\n' + month.first(2) + u"\t- for current year\n"_s + month.last(2) + u'\t'));
         QVERIFY(said.endsWith(serialNumber));
     }
