@@ -266,25 +266,13 @@ private slots:
         QTRY_VERIFY(device.isConnected());
     }
 
-    void unplugWhileSearchingClosesThePortAndNothingElse_data()
-    {
-        QTest::addColumn<bool>("silent");
-        QTest::newRow("told by an error") << false;
-        QTest::newRow("found in the next round") << true;
-    }
-
     void unplugWhileSearchingClosesThePortAndNothingElse()
     {
-        QFETCH(bool, silent);
         Bench bench(false);
         TestLine &line = bench.line;
         QVERIFY(line.waitFor("{whois}"));
-        // Looked up for nobody, so that it stays unclaimed.
-        QSerialPort *port = SerialPortManager::instance().acquirePort(line.name, {});
-        port->blockSignals(silent);
+        QSerialPort *port = heldPort(line);
         line.terminal.close();
-        if (silent)
-            bench.device.connectionTimerHandler();
         QTRY_VERIFY(!port->isOpen());
         QCOMPARE(bench.device.take(), QStringList());
         QVERIFY(line.terminal.open());
