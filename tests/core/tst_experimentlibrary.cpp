@@ -115,7 +115,7 @@ private slots:
         for (int i = 0; i < 3; ++i) {
             const QString folder = library.newFolder(moment);
             names.append(folder.mid(m_records.size()));
-            writeFile(folder + "status.log"_L1, "");
+            write(folder + "status.log"_L1, {});
         }
         QCOMPARE(names, QStringList({u"2024.03.09-08.05.59.998/"_s, u"2024.03.09-08.05.59.999/"_s,
                                      u"2024.03.09-08.06.00.000/"_s}));
