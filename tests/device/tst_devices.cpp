@@ -182,8 +182,7 @@ private slots:
         line.terminal.write(hex("7B5CD17D"));
         QTRY_VERIFY(device.isConnected());
         QTest::ignoreMessage(QtInfoMsg, "OLD SPB ");
-        line.terminal.write("noise{S,1,0,0,5,A");
-        line.terminal.write("}");
+        line.terminal.write("noise{S,1,0,0,5,A}");
         QVERIFY(read.wait());
         QTest::ignoreMessage(QtInfoMsg, "CANNOT USE STRING PARSE IN OLD SPINBAR");
         device.onTextMessage(u"S,1,0,0,5,A"_s);
