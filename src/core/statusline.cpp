@@ -13,6 +13,7 @@ constexpr int Hexadecimal = 16;
 
 // So many digits fit a signed 64-bit number whatever they are.
 constexpr int MaxPlainDigits = 15;
+constexpr int BitsPerDigit = 4;
 
 constexpr std::array<qint8, 256> digitValues()
 {
@@ -34,29 +35,29 @@ bool readAnyNumber(const char *begin, const char *end, qint64 &number)
     return ok;
 }
 
-bool readNumber(const char *begin, const char *end, qint64 &number)
+/// The number of the last field before \a end, whose beginning becomes \a start. Backwards, so that each
+/// digit is looked at once.
+bool readLastNumber(const char *begin, const char *end, const char *&start, qint64 &number)
 {
     static constexpr auto Digits = digitValues();
-    if (begin == end || end - begin > MaxPlainDigits)
-        return readAnyNumber(begin, end, number);
+    const char *const stop = end - std::min<std::ptrdiff_t>(end - begin, MaxPlainDigits);
+    const char *at = end;
     qint64 value = 0;
-    for (const char *at = begin; at != end; ++at) {
-        const qint8 digit = Digits[quint8(*at)];
+    int bits = 0;
+    for (; at != stop; --at, bits += BitsPerDigit) {
+        const qint8 digit = Digits[quint8(at[-1])];
         if (digit < 0)
-            return readAnyNumber(begin, end, number);
-        value = value * Hexadecimal + digit;
+            break;
+        value |= qint64(digit) << bits;
     }
-    number = value;
-    return true;
-}
-
-const char *lastSeparator(const char *begin, const char *end)
-{
-    while (end != begin) {
-        if (*--end == ';')
-            return end;
+    start = at;
+    if (at != end && at != begin && at[-1] == ';') {
+        number = value;
+        return true;
     }
-    return nullptr;
+    while (start != begin && start[-1] != ';')
+        --start;
+    return readAnyNumber(start, end, number);
 }
 
 } // namespace
@@ -77,14 +78,13 @@ bool StatusLine::readStoredLine(const char *begin, const char *end, qint64 cutSe
 {
     while (end != begin && (end[-1] == '\r' || end[-1] == ' '))
         --end;
-    const char *beforeTime = lastSeparator(begin, end);
-    const char *beforeCounter = beforeTime ? lastSeparator(begin, beforeTime) : nullptr;
-    // The two found, and one field more than there are separators.
-    constexpr qint64 OtherSeparators = MinStoredFields - 3;
-    if (!beforeCounter || cutSeparators + std::count(begin, beforeCounter, ';') < OtherSeparators
-        || !readNumber(beforeTime + 1, end, sample.timeMs))
+    const char *time = nullptr;
+    const char *counter = nullptr;
+    if (!readLastNumber(begin, end, time, sample.timeMs) || time == begin)
         return false;
-    if (!readNumber(beforeCounter + 1, beforeTime, sample.counter))
+    if (!readLastNumber(begin, time - 1, counter, sample.counter))
         sample.counter = 0;
-    return true;
+    // All but that before the time, and one field more than there are separators.
+    constexpr qint64 OtherSeparators = MinStoredFields - 2;
+    return counter != begin && cutSeparators + std::count(begin, counter, ';') >= OtherSeparators;
 }
