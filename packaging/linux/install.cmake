@@ -19,6 +19,8 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Which draws the icons, and is not linked: later releases have it in a package of its own.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6 (<< 6.7~) | qt6-svg-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, hicolor-icon-theme, udev")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_SOURCE_DIR}/linux/postinst")
