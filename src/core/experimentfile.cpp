@@ -114,7 +114,7 @@ bool ExperimentFile::read(const QString &path, ExperimentData &data)
     take(object, "timestamp"_L1, data.timestamp);
     take(object, "ts"_L1, data.firstDeviceTime);
     const QJsonArray items = object.value("items"_L1).toArray();
-    for (const QJsonValue &value : items) {
+    for (const auto &value : items) {
         if (!value.isObject())
             continue;
         if (const ExperimentItem item = itemOf(value.toObject()); isUsable(item))

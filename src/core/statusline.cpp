@@ -19,10 +19,10 @@ constexpr std::array<qint8, 256> digitValues()
 {
     std::array<qint8, 256> values{};
     values.fill(-1);
-    for (int i = 0; i < 10; ++i)
-        values[std::size_t('0' + i)] = qint8(i);
-    for (int i = 0; i < 6; ++i)
-        values[std::size_t('a' + i)] = values[std::size_t('A' + i)] = qint8(10 + i);
+    for (std::size_t i = 0; i < 10; ++i)
+        values['0' + i] = qint8(i);
+    for (std::size_t i = 0; i < 6; ++i)
+        values['a' + i] = values['A' + i] = qint8(10 + i);
     return values;
 }
 

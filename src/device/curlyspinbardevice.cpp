@@ -20,9 +20,10 @@ void CurlySpinbarDevice::handleStatus(const QString &message)
     if (update.powerChanged)
         emit powerChanged();
     // Behind the counters, which the listener reads when the readings come.
-    if (update.hasReadings && mice)
+    if (update.hasReadings && mice) {
         emit miceIR(m_status.mouseReadings);
-    else if (update.hasReadings)
+    } else if (update.hasReadings) {
         emit ratsIR(m_status.ratReadings);
+    }
     emit newStatus(message);
 }

@@ -28,8 +28,10 @@ void ListComboBox::changeEvent(QEvent *event)
 {
     // QComboBox makes a view to lay it out anew. Before the box is first measured there is nothing to renew.
     const bool changesLook = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    if (changesLook && !m_isMeasured)
-        QWidget::changeEvent(event);
-    else
+    if (m_isMeasured || !changesLook) {
         QComboBox::changeEvent(event);
+        return;
+    }
+    update();
+    updateGeometry();
 }
