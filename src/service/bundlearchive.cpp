@@ -21,7 +21,7 @@ namespace {
 constexpr qint64 ChunkBytes = qint64(64) * 1024;
 // Each entry has its header in the archive's directory. The files' own bytes may read like some.
 constexpr QByteArrayView HeaderSignature("PK\x01\x02");
-constexpr qsizetype MaxHeaders = 100 * BundleArchive::MaxEntries;
+constexpr qsizetype MaxHeaders = qsizetype(100) * BundleArchive::MaxEntries;
 // A Unix file mode stands in the upper half of an entry's attributes.
 constexpr int ModeShift = 16;
 constexpr quint32 TypeMask = 0170000;
