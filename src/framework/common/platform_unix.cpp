@@ -52,5 +52,5 @@ bool Platform::hasTrashFor(const QString &path)
     // forever.
     const QString notes = trash + "/info"_L1;
     return QFile::encodeName(QFileInfo(path).fileName()).size() <= MaxTrashedNameBytes && QDir().mkpath(notes)
-           && QTemporaryFile(notes + "/XXXXXX"_L1).open();
+           && QTemporaryFile(notes + "/note"_L1).open();
 }
