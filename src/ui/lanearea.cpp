@@ -20,18 +20,11 @@ constexpr QMargins LaneMargins{0, 16, 0, 16};
 } // namespace
 
 LaneArea::LaneArea(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent)
-    : QWidget(parent)
+    : LateWidget(parent)
     , m_device(device)
     , m_settings(settings)
 {
     setContentsMargins(0, 0, 0, 0);
-}
-
-void LaneArea::setVisible(bool visible)
-{
-    if (visible && !layout())
-        layOut();
-    QWidget::setVisible(visible);
 }
 
 void LaneArea::layOut()

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "framework/common/widgets/latewidget.h"
+
 #include <QList>
-#include <QWidget>
 
 class CurlySpinbar;
 class RodentStatusWidget;
@@ -12,15 +13,13 @@ class SpinbarSettings;
 
 /// The lanes of the drum side by side over a graph of the running recording. Its widgets are made when it is
 /// first shown, which is when an instrument is there.
-class LaneArea : public QWidget
+class LaneArea : public LateWidget
 {
     Q_OBJECT
 
 public:
     /// \a device and \a settings are not owned.
     LaneArea(CurlySpinbar *device, SpinbarSettings *settings, QWidget *parent);
-
-    void setVisible(bool visible) override;
 
     /// The lanes of the device's animals.
     void updateMode();
@@ -30,7 +29,7 @@ public:
     void showRecord(SpinbarRecord &record);
 
 private:
-    void layOut();
+    void layOut() override;
     QList<RodentStatusWidget *> createLanes(const QList<SpinbarDetection *> &lanes);
 
     CurlySpinbar *m_device;

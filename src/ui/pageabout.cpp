@@ -19,17 +19,10 @@ QDateTime birthday(const QString &date)
 } // namespace
 
 PageAbout::PageAbout(QWidget *parent)
-    : QWidget(parent)
+    : LateWidget(parent)
 {
     setContentsMargins({});
     AboutFacts::addresses();
-}
-
-void PageAbout::setVisible(bool visible)
-{
-    if (visible && !layout())
-        layOut();
-    QWidget::setVisible(visible);
 }
 
 void PageAbout::layOut()

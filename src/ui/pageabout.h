@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
+#include "framework/common/widgets/latewidget.h"
 
 /// What the program is and who made it.
-class PageAbout : public QWidget
+class PageAbout : public LateWidget
 {
     Q_OBJECT
 
@@ -11,8 +11,6 @@ public:
     /// The computer's addresses are read now; the widgets are made when the page is first shown.
     explicit PageAbout(QWidget *parent);
 
-    void setVisible(bool visible) override;
-
 private:
-    void layOut();
+    void layOut() override;
 };

@@ -55,20 +55,12 @@ bool isBeingRecorded(const QString &folder)
 } // namespace
 
 PageDatabase::PageDatabase(QWidget *parent)
-    : QWidget(parent)
+    : LateWidget(parent)
     , m_library(SpinbarModel::instance()->recordsFolder())
     , m_settings(SpinbarModel::instance()->settings())
     , m_records(new ExperimentRecords(this))
     , m_exporter(SpinbarModel::instance(), this)
 {}
-
-void PageDatabase::setVisible(bool visible)
-{
-    // The start of the program does not wait for what most starts show later, if ever.
-    if (visible && !m_table)
-        layOut();
-    QWidget::setVisible(visible);
-}
 
 PageDatabase::~PageDatabase()
 {

@@ -5,9 +5,9 @@
 #include "core/experimentlibrary.h"
 #include "core/experimentrecords.h"
 #include "framework/common/connectionhelper.h"
+#include "framework/common/widgets/latewidget.h"
 
 #include <QPointer>
-#include <QWidget>
 
 class QLabel;
 class QStackedWidget;
@@ -19,7 +19,7 @@ class SpinbarSettings;
 
 /// The experiments on disk: a table of all, in which they are named, renamed and removed, beside what there
 /// is to see of those selected. Nothing watches the disk: the page shows what the last reload found.
-class PageDatabase : public QWidget
+class PageDatabase : public LateWidget
 {
     Q_OBJECT
 
@@ -33,8 +33,6 @@ public:
     /// The records changed: the page is to be filled anew when it is next shown.
     void setNeedsReload() { m_needsReload = true; }
     bool needsReload() const { return m_needsReload; }
-
-    void setVisible(bool visible) override;
 
 public slots:
     void reload();
@@ -52,7 +50,7 @@ private:
     void fillSinglePage();
     void fillMultiPage();
     void fillTableSide(QWidget *side);
-    void layOut();
+    void layOut() override;
     void clear();
     void clearViewers();
     void readRecords();

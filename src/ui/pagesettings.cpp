@@ -23,17 +23,9 @@ constexpr QSize IconSize{24, 24};
 } // namespace
 
 PageSettings::PageSettings(QWidget *parent)
-    : QWidget(parent)
+    : LateWidget(parent)
 {
     setContentsMargins({});
-}
-
-void PageSettings::setVisible(bool visible)
-{
-    // The form is dear, and most starts of the program never show it.
-    if (visible && !layout())
-        layOut();
-    QWidget::setVisible(visible);
 }
 
 void PageSettings::layOut()

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
+#include "framework/common/widgets/latewidget.h"
 
 /// The application's settings and the door to the library of scripts.
-class PageSettings : public QWidget
+class PageSettings : public LateWidget
 {
     Q_OBJECT
 
@@ -11,9 +11,7 @@ public:
     /// Its widgets are made when it is first shown.
     explicit PageSettings(QWidget *parent);
 
-    void setVisible(bool visible) override;
-
 private:
-    void layOut();
+    void layOut() override;
     void openScriptEditor();
 };
